@@ -1,0 +1,28 @@
+// Process-wide state of the host environment shared by the host libraries (clock, calendar, directory, data).
+#pragma once
+
+#include <atomic>
+#include <map>
+#include <mutex>
+#include <string>
+
+#include "BaseLib.h"
+
+namespace host::detail {
+
+struct Environment {
+    std::mutex mutex; // the player-list worker reads the directory and data from its own thread
+    std::string clientDir;
+    std::atomic<DWORD> clockMs{kStartClockMs};
+    SLocalTime localTime{kStartTime};
+    int screenWidth = 1024;
+    int screenHeight = 768;
+    std::map<std::string, std::string> data;
+
+    static constexpr DWORD kStartClockMs = 100000;
+    static constexpr SLocalTime kStartTime{2026, 1, 1, 12, 0, 0};
+};
+
+Environment& Env();
+
+} // namespace host::detail

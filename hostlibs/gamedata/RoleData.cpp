@@ -1,0 +1,56 @@
+// Our game data library's data objects, driven by host data (see docs/HOSTDATA.md) and recording what they are told.
+#include <string>
+
+#include "GameData.h"
+#include "hostlibs/HostEnv.h"
+
+namespace {
+class CRoleData final : public IRoleData {
+public:
+    void PlaySoundByName(const char* szName) override {
+        host::Journal("gamedata.sound", {{"name", szName ? szName : ""}});
+    }
+};
+
+class CRoleDataEn final : public IRoleDataEn {
+public:
+    void SetPlatformModeB(WORD wOn) override {
+        host::Journal("gamedata.platformb", {{"value", std::to_string(wOn)}});
+    }
+    int GetSetting(const char* szKey, int nFallback) override {
+        return host::GetDataInt(std::string("setting.") + (szKey ? szKey : ""), nFallback);
+    }
+    void SetSetting(const char* szKey, int nValue) override {
+        const std::string key = szKey ? szKey : "";
+        host::SetData("setting." + key, std::to_string(nValue));
+        host::Journal("gamedata.setting", {{"key", key}, {"value", std::to_string(nValue)}});
+    }
+};
+
+class CRoleDataEx final : public IRoleDataEx {
+public:
+    const char* GetLanguageName() override {
+        m_strLanguage = host::GetData("language", "Chinese");
+        return m_strLanguage.c_str();
+    }
+    bool IsEnglishOnly() override { return host::GetDataInt("englishonly", 0) != 0; }
+
+private:
+    std::string m_strLanguage;
+};
+} // namespace
+
+IRoleData* RoleDataQuery() {
+    static CRoleData data;
+    return &data;
+}
+
+IRoleDataEn* RoleDataQueryEn() {
+    static CRoleDataEn data;
+    return &data;
+}
+
+IRoleDataEx* RoleDataQueryEx() {
+    static CRoleDataEx data;
+    return &data;
+}

@@ -1,0 +1,64 @@
+// The host side of our host libraries: what a game client (or a test) sets and reads around the system.
+//
+// Everything the system reads from the world comes from here: the virtual clock, the local calendar time, the
+// client directory, the screen size, host data by key, and the sink that receives every log line.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <initializer_list>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "BaseLib.h"
+
+namespace host {
+
+// ---- log sink -------------------------------------------------------------------------------------------------------
+
+/// One line of any log: structured (INFO, WARN, ERROR), plain (MSG, DEBUG, LOCALERR, FAULT), or a host-library
+/// record of an outward effect (HOST: a dialog registered, a sound played, an address opened ...).
+struct LogRecord {
+    std::string level;
+    std::string message;
+    std::vector<std::pair<std::string, std::string>> keys;
+    std::string file; ///< source file name of the caller, when known
+    int line = 0;
+};
+using LogSink = std::function<void(const LogRecord&)>;
+
+/// Replaces the sink (an empty function discards every line). Returns the previous sink.
+HOSTLIB_API LogSink SetLogSink(LogSink sink);
+/// Hands a line to the sink.
+HOSTLIB_API void Emit(LogRecord record);
+/// Records an outward effect of a host library: counted, and emitted as a HOST line.
+HOSTLIB_API void Journal(std::string_view what, std::initializer_list<std::pair<std::string_view, std::string>> keys = {});
+/// Counts a per-frame call without a log line (Journal would flood the log).
+HOSTLIB_API void Count(std::string_view what);
+/// How many times Journal or Count was called with this name since the last reset.
+HOSTLIB_API int JournalCount(std::string_view what);
+
+// ---- environment ----------------------------------------------------------------------------------------------------
+
+/// The client directory that relative file names resolve against (default: the process's current directory).
+HOSTLIB_API void SetClientDir(const std::string& dir);
+/// Advances the virtual millisecond clock behind TimeGet, timeGetTime and GetTickCount.
+HOSTLIB_API void AdvanceClock(DWORD ms);
+HOSTLIB_API void SetClock(DWORD ms);
+/// Sets the local calendar time (seconds start at 0).
+HOSTLIB_API void SetLocalTime(const SLocalTime& t);
+/// The screen (client area) size in pixels; 1024 x 768 by default.
+HOSTLIB_API void SetScreenSize(int nWidth, int nHeight);
+HOSTLIB_API void GetScreenSize(int& nWidth, int& nHeight);
+/// Host data by key (language name, switches, role lists ...); see docs/HOSTDATA.md for the keys.
+HOSTLIB_API void SetData(const std::string& key, const std::string& value);
+HOSTLIB_API std::string GetData(const std::string& key, const std::string& fallback = {});
+HOSTLIB_API bool HasData(const std::string& key);
+HOSTLIB_API int GetDataInt(const std::string& key, int fallback = 0);
+
+/// Test-only: clock, calendar, screen, host data, journal counts and the sink back to their start values.
+HOSTLIB_API void ResetForTest();
+
+} // namespace host

@@ -1,0 +1,6 @@
+// The international server and character picker.
+#include "login/DlgFlashLoginEn.h"
+
+CDlgFlashLoginEn::CDlgFlashLoginEn() : CSimDialog(IDD) {}
+
+CDlgFlashLoginEn::~CDlgFlashLoginEn() = default;

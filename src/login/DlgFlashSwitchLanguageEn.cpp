@@ -1,0 +1,6 @@
+// The curtain shown while the client switches its language.
+#include "login/DlgFlashSwitchLanguageEn.h"
+
+CDlgFlashSwitchLanguageEn::CDlgFlashSwitchLanguageEn() : CSimDialog(IDD) {}
+
+CDlgFlashSwitchLanguageEn::~CDlgFlashSwitchLanguageEn() = default;

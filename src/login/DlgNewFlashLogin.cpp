@@ -1,0 +1,6 @@
+// The main login screen.
+#include "login/DlgNewFlashLogin.h"
+
+CDlgNewFlashLogin::CDlgNewFlashLogin() : CSimDialog(IDD) {}
+
+CDlgNewFlashLogin::~CDlgNewFlashLogin() = default;

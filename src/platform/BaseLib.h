@@ -1,0 +1,94 @@
+// The base library's operations used by the system: safe conversions, client-directory files, time, threads, text.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "ZrString.h"
+#include "flashsim/Win32Types.h"
+
+#if defined(_WIN32)
+#define HOSTLIB_API
+#else
+#define HOSTLIB_API __attribute__((visibility("default")))
+#endif
+
+// ---- safe conversions ----------------------------------------------------------------------------------------------
+
+/// Leading blanks, an optional sign and decimal digits ("12abc" reads 12); null or empty text reads 0; values beyond
+/// 32 bits saturate.
+HOSTLIB_API int SafeAtoi(const char* sz);
+/// Writes nValue in base nRadix (2..36) into a buffer of nSize bytes, truncated but always terminated; returns szBuf.
+HOSTLIB_API char* SafeItoA(int nValue, char* szBuf, std::size_t nSize, int nRadix);
+/// strtoul with base nBase; null text reads 0, values beyond 32 bits saturate.
+HOSTLIB_API unsigned long SafeStrtoul(const char* sz, int nBase);
+/// printf into a buffer of nSize bytes, truncated but always terminated; returns the number of bytes written.
+HOSTLIB_API int SafeSprintf(char* szBuf, std::size_t nSize, const char* szFormat, ...)
+    __attribute__((format(printf, 3, 4)));
+/// Splits text at every occurrence of szSep. Code page 65001 (UTF-8) never splits inside a multi-byte character.
+HOSTLIB_API void Split(std::vector<CZrString>& vecOut, const char* szText, const char* szSep, UINT nCodePage);
+/// UTF-8 (code page 65001) or Latin-1 (anything else) to UTF-16.
+HOSTLIB_API std::u16string StringToWString(const char* sz, UINT nCodePage);
+
+// ---- files below the client directory ------------------------------------------------------------------------------
+
+/// An open file of the client directory (or, on the real client, of its packed archives).
+struct ZrFile;
+/// Opens szPath relative to the client directory; null when it cannot be opened.
+HOSTLIB_API ZrFile* Safefopen(const char* szPath, const char* szMode);
+/// Reads one line (with its line feed) into szBuf of nSize bytes; null at the end of the file.
+HOSTLIB_API char* Safefgets(char* szBuf, int nSize, ZrFile* pFile);
+HOSTLIB_API void Safefclose(ZrFile* pFile);
+/// The client directory (the game's current directory), as GetCurrentDirectoryA gives it.
+HOSTLIB_API std::string GetClientDirectory();
+
+// ---- time -----------------------------------------------------------------------------------------------------------
+
+/// Milliseconds of the host's clock (timeGetTime).
+HOSTLIB_API DWORD TimeGet();
+HOSTLIB_API DWORD GetTickCount();
+/// The local calendar time as "YYYY-MM-DD HH:MM:SS".
+HOSTLIB_API std::string FormatSvrTime();
+/// Local calendar time broken down.
+struct SLocalTime {
+    int nYear, nMonth, nDay, nHour, nMinute, nSecond;
+};
+HOSTLIB_API SLocalTime GetLocalCalendarTime();
+
+/// Last step reached by the per-frame calls, read by the host's crash dump.
+extern HOSTLIB_API int g_nDumpStep;
+
+// ---- threads --------------------------------------------------------------------------------------------------------
+
+using LPTHREAD_START_ROUTINE = DWORD (*)(void* pParam);
+
+class HOSTLIB_API CHandleHelper {
+public:
+    /// Starts a thread running pfn(pParam); returns its handle (close with CloseHandle) or null.
+    static HANDLE CreateThreadProxy(void* pSecurity, std::size_t nStackSize, LPTHREAD_START_ROUTINE pfn, void* pParam,
+                                    DWORD dwFlags, DWORD* pThreadId);
+};
+inline constexpr DWORD INFINITE = 0xFFFFFFFFu;
+inline constexpr DWORD WAIT_OBJECT_0 = 0;
+inline constexpr DWORD WAIT_TIMEOUT = 258;
+/// Waits for a thread handle to end; only INFINITE is honoured exactly, any other time polls once.
+HOSTLIB_API DWORD WaitForSingleObject(HANDLE hHandle, DWORD dwMilliseconds);
+/// Releases a handle (joining a thread that has ended, detaching one that has not).
+HOSTLIB_API BOOL CloseHandle(HANDLE hHandle);
+
+// ---- shell ----------------------------------------------------------------------------------------------------------
+
+/// Opens a document or web address with the system's shell; returns a value above 32 on success.
+HOSTLIB_API HINSTANCE ShellExecuteA(HWND hWnd, const char* szOperation, const char* szFile, const char* szParameters,
+                                    const char* szDirectory, int nShowCmd);
+
+// ---- sockets --------------------------------------------------------------------------------------------------------
+
+struct WSADATA {
+    WORD wVersion;
+    WORD wHighVersion;
+};
+HOSTLIB_API int WSAStartup(WORD wVersionRequested, WSADATA* pData);
+HOSTLIB_API int WSACleanup();

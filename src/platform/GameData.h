@@ -1,0 +1,45 @@
+// The game data library's data objects used by the system: sounds by name, settings, language, English-only mode.
+#pragma once
+
+#include <cstdint>
+
+#include "BaseLib.h"
+
+/// The role data object (`RoleDataQuery`).
+class IRoleData {
+public:
+    /// Plays a sound the sound library cannot play itself, by its game-data name.
+    virtual void PlaySoundByName(const char* szName) = 0;
+
+protected:
+    ~IRoleData() = default;
+};
+HOSTLIB_API IRoleData* RoleDataQuery();
+
+/// The settings data object (`RoleDataQueryEn`).
+class IRoleDataEn {
+public:
+    /// Passes the platform mode B flag to the game data.
+    virtual void SetPlatformModeB(WORD wOn) = 0;
+    /// Reads an integer setting of the settings store; fallback when absent.
+    virtual int GetSetting(const char* szKey, int nFallback) = 0;
+    /// Stores an integer setting.
+    virtual void SetSetting(const char* szKey, int nValue) = 0;
+
+protected:
+    ~IRoleDataEn() = default;
+};
+HOSTLIB_API IRoleDataEn* RoleDataQueryEn();
+
+/// The language data object (`RoleDataQueryEx`).
+class IRoleDataEx {
+public:
+    /// The client's language name ("English", ...); never null.
+    virtual const char* GetLanguageName() = 0;
+    /// Whether texts must be shown with English characters only.
+    virtual bool IsEnglishOnly() = 0;
+
+protected:
+    ~IRoleDataEx() = default;
+};
+HOSTLIB_API IRoleDataEx* RoleDataQueryEx();

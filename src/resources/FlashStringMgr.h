@@ -1,0 +1,51 @@
+// The string table: texts, switches and layout numbers by id from "ini/FlashString.ini", plus the ranged entries.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <map>
+#include <string_view>
+#include <utility>
+
+#include "platform/ZrString.h"
+
+class CFlashStringMgr {
+public:
+    static constexpr const char* STRING_FILE = "ini/FlashString.ini";
+    static constexpr std::uint32_t RANGED_ID_FIRST = 50000000;
+    static constexpr std::uint32_t RANGED_ID_LAST = 60000000;
+
+    CFlashStringMgr() = default;
+    virtual ~CFlashStringMgr() = default;
+    CFlashStringMgr(const CFlashStringMgr&) = delete;
+    CFlashStringMgr& operator=(const CFlashStringMgr&) = delete;
+
+    /// Loads the string table from the client directory (the earlier entries are cleared first).
+    void Load();
+    /// Empties the strings and the ranged strings (not the server configuration).
+    void Clear();
+
+    /// The text of an id; "FlashStrIniting<id>" while loading, "NOSTR <id>" when missing. Never null; valid until
+    /// the next Clear (a fallback text only until the next miss).
+    const char* GetStr(std::uint32_t nId) const;
+    /// GetStr read as a decimal number; 0 when missing.
+    int GetStrInt(std::uint32_t nId) const;
+
+    bool IsLoading() const { return m_bLoading; }
+    std::size_t GetStringCount() const { return m_mapStrings.size(); }
+    std::size_t GetRangedCount() const { return m_mapRanged.size(); }
+    /// The ranged entry at a position in ascending key order; key 0 and an empty text past the end.
+    std::pair<std::int64_t, const char*> GetRanged(std::size_t nPos) const;
+    /// Calls fn(key, text) for every ranged entry in ascending key order.
+    template <class Fn> void ForEachRanged(Fn fn) const {
+        for (const auto& [key, text] : m_mapRanged) fn(key, text.c_str());
+    }
+
+private:
+    void AddLine(std::string_view line);
+    void AddRanged(std::string_view value);
+
+    std::map<std::uint32_t, CZrString> m_mapStrings;
+    std::map<std::int64_t, CZrString> m_mapRanged;
+    bool m_bLoading = false;
+};

@@ -1,0 +1,12 @@
+// The full-screen backdrop of the login and creation scenes; its picture comes from its layout record.
+#pragma once
+
+#include "controls/SimDialog.h"
+
+class CDlgFlashBG : public CSimDialog {
+public:
+    static constexpr UINT IDD = 1004;
+
+    CDlgFlashBG();
+    ~CDlgFlashBG() override;
+};

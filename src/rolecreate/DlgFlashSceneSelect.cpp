@@ -1,0 +1,6 @@
+// The start-scene choice offered for profession 100.
+#include "rolecreate/DlgFlashSceneSelect.h"
+
+CDlgFlashSceneSelect::CDlgFlashSceneSelect() : CSimDialog(IDD) {}
+
+CDlgFlashSceneSelect::~CDlgFlashSceneSelect() = default;

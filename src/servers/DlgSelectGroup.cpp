@@ -1,0 +1,6 @@
+// The server-group screen: up to 80 group buttons of the chosen edition.
+#include "servers/DlgSelectGroup.h"
+
+CDlgSelectGroup::CDlgSelectGroup() : CSimDialog(IDD) {}
+
+CDlgSelectGroup::~CDlgSelectGroup() = default;
