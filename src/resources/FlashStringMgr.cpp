@@ -12,6 +12,7 @@
 namespace {
 constexpr std::size_t LINE_BUFFER_SIZE = 1024;
 constexpr UINT CP_UTF8_CODE_PAGE = 65001;
+constexpr std::size_t LINES_RESERVED = 4096;
 
 bool IsCommentLine(std::string_view line) {
     return line.empty() || line.front() == ';' || line.substr(0, 2) == "//";
@@ -58,6 +59,7 @@ void CFlashStringMgr::Load() {
     // NOTE: the server configuration is loaded here first once the server lists exist (see docs/STATUS.md).
     m_bLoading = true;
     Clear();
+    m_mapStrings.reserve(LINES_RESERVED);
     ZrFile* file = Safefopen(STRING_FILE, "r");
     if (!file) {
         // Lookups keep answering "FlashStrIniting<id>" until a later reload finds the file.

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <map>
+#include <unordered_map>
 #include <string_view>
 #include <utility>
 
@@ -45,7 +46,8 @@ private:
     void AddLine(std::string_view line);
     void AddRanged(std::string_view value);
 
-    std::map<std::uint32_t, CZrString> m_mapStrings;
+    // Lookups are the hot path and nothing walks the plain strings in order, so they live in a hash map.
+    std::unordered_map<std::uint32_t, CZrString> m_mapStrings;
     std::map<std::int64_t, CZrString> m_mapRanged;
     bool m_bLoading = false;
 };

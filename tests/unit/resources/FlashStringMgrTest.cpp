@@ -1,0 +1,92 @@
+// The string table loader and lookups: file format, duplicates, ranged entries, fallbacks, long and odd lines.
+#include <gtest/gtest.h>
+
+#include "LogCapture.h"
+#include "TempClientDir.h"
+#include "resources/FlashStringMgr.h"
+
+namespace {
+void LoadTable(CFlashStringMgr& mgr, const TempClientDir& dir, const std::string& content) {
+    dir.Write("ini/FlashString.ini", content);
+    mgr.Load();
+}
+} // namespace
+
+TEST(FlashStringMgr, ParsesIdsValuesAndComments) {
+    TempClientDir dir;
+    CFlashStringMgr mgr;
+    LoadTable(mgr, dir, "12=a=b\n0=x\nabc=x\nx\n;5=x\n//5=x\n\n13=\n14=trailing\r\n");
+    EXPECT_STREQ(mgr.GetStr(12), "a=b");
+    EXPECT_STREQ(mgr.GetStr(5), "NOSTR 5");
+    EXPECT_STREQ(mgr.GetStr(13), "");
+    EXPECT_STREQ(mgr.GetStr(14), "trailing\r") << "only the line feed is removed";
+    EXPECT_EQ(mgr.GetStringCount(), 3u);
+    EXPECT_FALSE(mgr.IsLoading());
+}
+
+TEST(FlashStringMgr, LaterDuplicateWinsWithOneWarning) {
+    TempClientDir dir;
+    CFlashStringMgr mgr;
+    testlog::Expect("WARN", "strres have same id");
+    LoadTable(mgr, dir, "7=a\n7=b\n");
+    EXPECT_STREQ(mgr.GetStr(7), "b");
+    ASSERT_EQ(testlog::Count("WARN", "strres have same id"), 1);
+    const auto& warn = testlog::Records().back();
+    EXPECT_EQ(testlog::Key(warn, "id"), "7");
+    EXPECT_FALSE(testlog::Key(warn, "svr_time").empty());
+}
+
+TEST(FlashStringMgr, RangedEntriesAreKeyedByTheirRange) {
+    TempClientDir dir;
+    CFlashStringMgr mgr;
+    LoadTable(mgr, dir,
+              "50000001=[19968-40869]|Text\n"
+              "50000002=[1-2]no bar\n"
+              "49999999=[3-4]|below the range\n"
+              "60000000=[-1-0]|negative first\n"
+              "50000003=[x-2]|no numbers\n");
+    EXPECT_STREQ(mgr.GetStr(50000001), "[19968-40869]|Text");
+    ASSERT_EQ(mgr.GetRangedCount(), 2u);
+    EXPECT_EQ(mgr.GetRanged(0).first, -1) << "the first number is sign-extended over the key";
+    EXPECT_EQ(mgr.GetRanged(1).first, 40869LL * 4294967296LL + 19968);
+    EXPECT_STREQ(mgr.GetRanged(1).second, "Text");
+    EXPECT_EQ(mgr.GetRanged(2).first, 0);
+    EXPECT_STREQ(mgr.GetRanged(2).second, "");
+}
+
+TEST(FlashStringMgr, MissingFileAnswersInitingUntilAReloadFindsIt) {
+    TempClientDir dir;
+    CFlashStringMgr mgr;
+    EXPECT_STREQ(mgr.GetStr(42), "NOSTR 42") << "an empty table is not loading";
+    testlog::Expect("ERROR", "open file failed");
+    mgr.Load();
+    EXPECT_TRUE(mgr.IsLoading());
+    EXPECT_STREQ(mgr.GetStr(3110001), "FlashStrIniting3110001");
+    EXPECT_EQ(mgr.GetStrInt(3500000), 0);
+    EXPECT_EQ(testlog::Key(testlog::Records().back(), "file_name"), "ini/FlashString.ini");
+
+    LoadTable(mgr, dir, "3500000=1\n");
+    EXPECT_FALSE(mgr.IsLoading());
+    EXPECT_EQ(mgr.GetStrInt(3500000), 1);
+}
+
+TEST(FlashStringMgr, LongLinesAreCutAtTheBufferAndNeverOverflow) {
+    TempClientDir dir;
+    CFlashStringMgr mgr;
+    const std::string longValue(5000, 'v');
+    LoadTable(mgr, dir, "9=" + longValue + "\n10=after\n");
+    EXPECT_EQ(std::string(mgr.GetStr(9)).size(), 1023u - 2u);
+    EXPECT_STREQ(mgr.GetStr(10), "after");
+}
+
+TEST(FlashStringMgr, ClearKeepsNothingAndEmptyFileLoadsNothing) {
+    TempClientDir dir;
+    CFlashStringMgr mgr;
+    LoadTable(mgr, dir, "1=x\n50000001=[1-2]|y\n");
+    mgr.Clear();
+    EXPECT_EQ(mgr.GetStringCount(), 0u);
+    EXPECT_EQ(mgr.GetRangedCount(), 0u);
+    LoadTable(mgr, dir, "");
+    EXPECT_FALSE(mgr.IsLoading());
+    EXPECT_STREQ(mgr.GetStr(1), "NOSTR 1");
+}

@@ -1,0 +1,219 @@
+// Executes scenario steps against the system library and writes the transcript.
+#include "ScenarioRunner.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+
+#include "InterfaceCalls.h"
+#include "hostlibs/HostEnv.h"
+
+namespace {
+Transcript* g_pTranscript = nullptr;
+
+void PrintCommand(const char* prefix, const char* szCommand, const char* szArgument) {
+    if (!g_pTranscript) return;
+    g_pTranscript->Line(std::string(prefix) + " " + EscapeText(szCommand ? szCommand : "") + " \"" +
+                        EscapeText(szArgument ? szArgument : "") + "\"");
+}
+
+void OnPrimaryCommand(const char* szCommand, const char* szArgument) { PrintCommand(">", szCommand, szArgument); }
+void OnSecondaryCommand(const char* szCommand, const char* szArgument) { PrintCommand(">>", szCommand, szArgument); }
+
+std::string LogValue(const std::string& value) {
+    const std::string escaped = EscapeText(value);
+    if (escaped.empty() || escaped.find(' ') != std::string::npos) return "\"" + escaped + "\"";
+    return escaped;
+}
+
+std::string FormatLogLine(const host::LogRecord& record) {
+    std::string line = "! " + record.level + " " + EscapeText(record.message);
+    for (const auto& [key, value] : record.keys) line += " " + key + "=" + LogValue(value);
+    return line;
+}
+
+bool ParseInt(const std::string& text, long long& value) {
+    if (text.empty()) return false;
+    char* end = nullptr;
+    value = std::strtoll(text.c_str(), &end, 10);
+    return end && *end == '\0';
+}
+} // namespace
+
+ScenarioRunner::ScenarioRunner(const RunOptions& options, Transcript& transcript)
+    : m_options(options), m_transcript(transcript) {
+    g_pTranscript = &m_transcript;
+    host::SetClientDir(m_options.resDir);
+    InstallLogSink();
+}
+
+ScenarioRunner::~ScenarioRunner() {
+    host::SetLogSink({});
+    g_pTranscript = nullptr;
+}
+
+void ScenarioRunner::InstallLogSink() {
+    host::SetLogSink([this](const host::LogRecord& record) {
+        if (m_bLogOn) m_transcript.Line(FormatLogLine(record));
+    });
+}
+
+bool ScenarioRunner::Run(const std::vector<ScenarioStep>& steps) {
+    if (!m_library.Load(m_options.libraryPath)) {
+        m_transcript.Line("! error: " + m_library.Error());
+        return false;
+    }
+    for (const ScenarioStep& step : steps) Execute(step);
+    return !m_bFailed;
+}
+
+void ScenarioRunner::Fail(const ScenarioStep& step, const std::string& why) {
+    m_transcript.Line("! error: line " + std::to_string(step.nLine) + ": " + why);
+    m_bFailed = true;
+}
+
+bool ScenarioRunner::RequireSimulator(const ScenarioStep& step) {
+    // Like a game client, any step that needs the simulator obtains it first; only "create" calls Create.
+    if (!m_pSim) m_pSim = m_library.Query();
+    if (m_pSim) return true;
+    Fail(step, "FlashSimulatorQuery returned null");
+    return false;
+}
+
+void ScenarioRunner::Execute(const ScenarioStep& step) {
+    const std::string& name = step.words[0];
+    if (name == "dir") return StepDir(step);
+    if (name == "create") return StepCreate(step);
+    if (name == "callback") return StepCallback(step);
+    if (name == "scene") return StepScene(step);
+    if (name == "set") return StepSet(step);
+    if (name == "get") return StepGet(step);
+    if (name == "call") return StepCall(step);
+    if (name == "frame") return StepFrame(step);
+    if (name == "clock") return StepClock(step);
+    if (name == "time") return StepTime(step);
+    if (name == "host") return StepHost(step);
+    if (name == "log") return StepLog(step);
+    if (name == "destroy") return StepDestroy(step);
+    Fail(step, "unknown step \"" + EscapeText(name) + "\"");
+}
+
+void ScenarioRunner::StepDir(const ScenarioStep& step) {
+    if (step.words.size() != 2) return Fail(step, "dir takes a path");
+    namespace fs = std::filesystem;
+    const fs::path base = fs::path(m_options.scenarioPath).parent_path();
+    host::SetClientDir(fs::absolute(base / UnescapeValue(step.words[1])).lexically_normal().string());
+}
+
+void ScenarioRunner::StepCreate(const ScenarioStep& step) {
+    long long language = 0;
+    bool bRegister = true;
+    for (std::size_t i = 1; i < step.words.size(); ++i) {
+        if (step.words[i] == "noregister")
+            bRegister = false;
+        else if (!ParseInt(step.words[i], language))
+            return Fail(step, "create takes [LANG] [noregister]");
+    }
+    if (!RequireSimulator(step)) return;
+    m_pSim->Create(0, 0, static_cast<std::int32_t>(language), bRegister);
+}
+
+void ScenarioRunner::StepCallback(const ScenarioStep& step) {
+    if (!RequireSimulator(step)) return;
+    if (step.words.size() == 2 && step.words[1] == "primary") return m_pSim->SetCallBack(&OnPrimaryCommand);
+    if (step.words.size() == 2 && step.words[1] == "secondary") return m_pSim->SetCallBackEx(&OnSecondaryCommand);
+    Fail(step, "callback takes primary or secondary");
+}
+
+void ScenarioRunner::StepScene(const ScenarioStep& step) {
+    if (!RequireSimulator(step)) return;
+    long long scene = 0;
+    if (step.words.size() != 2) return Fail(step, "scene takes login, create or a number");
+    if (step.words[1] == "login")
+        scene = EST_LOGIN;
+    else if (step.words[1] == "create")
+        scene = EST_ROLE_CREATE;
+    else if (!ParseInt(step.words[1], scene))
+        return Fail(step, "scene takes login, create or a number");
+    m_pSim->SetSceneType(static_cast<std::int32_t>(scene));
+}
+
+void ScenarioRunner::StepSet(const ScenarioStep& step) {
+    if (!RequireSimulator(step)) return;
+    if (step.words.size() < 2) return Fail(step, "set takes NAME [VALUE]");
+    const std::string name = UnescapeValue(step.words[1]);
+    const std::string value = step.words.size() > 2 ? UnescapeValue(step.RestAfter(2)) : std::string();
+    m_pSim->SetVariable(name.c_str(), value.c_str());
+}
+
+void ScenarioRunner::StepGet(const ScenarioStep& step) {
+    if (!RequireSimulator(step)) return;
+    if (step.words.size() != 2) return Fail(step, "get takes NAME");
+    const std::string name = UnescapeValue(step.words[1]);
+    const char* value = m_pSim->GetVariable(name.c_str());
+    m_transcript.Line("< " + EscapeText(name) + " = " + (value ? EscapeText(value) : std::string("(null)")));
+}
+
+void ScenarioRunner::StepCall(const ScenarioStep& step) {
+    if (!RequireSimulator(step)) return;
+    if (step.words.size() < 2) return Fail(step, "call takes OP [ARG ...]");
+    std::vector<std::string> args;
+    for (std::size_t i = 2; i < step.words.size(); ++i) args.push_back(UnescapeValue(step.words[i]));
+    const CallOutcome outcome = CallInterface(*m_pSim, step.words[1], args);
+    if (!outcome.bKnown) return Fail(step, "no operation \"" + EscapeText(step.words[1]) + "\"");
+    if (!outcome.error.empty()) return Fail(step, outcome.error);
+    if (outcome.result) m_transcript.Line("< " + step.words[1] + " = " + EscapeText(*outcome.result));
+}
+
+void ScenarioRunner::StepFrame(const ScenarioStep& step) {
+    if (!RequireSimulator(step)) return;
+    long long count = 1;
+    long long ms = 16;
+    if (step.words.size() > 1 && !ParseInt(step.words[1], count)) return Fail(step, "frame takes [N] [MS]");
+    if (step.words.size() > 2 && !ParseInt(step.words[2], ms)) return Fail(step, "frame takes [N] [MS]");
+    for (long long i = 0; i < count; ++i) {
+        host::AdvanceClock(static_cast<DWORD>(ms));
+        m_pSim->Process();
+        m_pSim->Show();
+    }
+}
+
+void ScenarioRunner::StepClock(const ScenarioStep& step) {
+    long long ms = 0;
+    if (step.words.size() != 2 || !ParseInt(step.words[1], ms)) return Fail(step, "clock takes MS");
+    host::AdvanceClock(static_cast<DWORD>(ms));
+}
+
+void ScenarioRunner::StepTime(const ScenarioStep& step) {
+    SLocalTime t{};
+    if (step.words.size() != 3 ||
+        std::sscanf(step.words[1].c_str(), "%4d-%2d-%2d", &t.nYear, &t.nMonth, &t.nDay) != 3 ||
+        std::sscanf(step.words[2].c_str(), "%2d:%2d", &t.nHour, &t.nMinute) != 2)
+        return Fail(step, "time takes YYYY-MM-DD HH:MM");
+    host::SetLocalTime(t);
+}
+
+void ScenarioRunner::StepHost(const ScenarioStep& step) {
+    if (step.words.size() < 2) return Fail(step, "host takes KEY VALUE");
+    const std::string key = UnescapeValue(step.words[1]);
+    const std::string value = step.words.size() > 2 ? UnescapeValue(step.RestAfter(2)) : std::string();
+    if (key == "screen") {
+        int w = 0, h = 0;
+        if (std::sscanf(value.c_str(), "%dx%d", &w, &h) != 2) return Fail(step, "host screen takes WxH");
+        return host::SetScreenSize(w, h);
+    }
+    host::SetData(key, value);
+}
+
+void ScenarioRunner::StepLog(const ScenarioStep& step) {
+    if (step.words.size() == 2 && (step.words[1] == "on" || step.words[1] == "off")) {
+        m_bLogOn = step.words[1] == "on";
+        return;
+    }
+    Fail(step, "log takes on or off");
+}
+
+void ScenarioRunner::StepDestroy(const ScenarioStep&) {
+    m_library.Destroy();
+    m_pSim = nullptr;
+}

@@ -1,0 +1,55 @@
+// Executes scenario steps against the system library and writes the transcript.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "ScenarioParser.h"
+#include "SystemLibrary.h"
+#include "Transcript.h"
+
+struct RunOptions {
+    std::string scenarioPath; ///< the scenario file (relative paths of "dir" resolve against its folder)
+    std::string libraryPath;  ///< the system library to load
+    std::string resDir;       ///< the default client directory
+    std::string outDir;       ///< where "shot" writes its pictures
+};
+
+class ScenarioRunner {
+public:
+    ScenarioRunner(const RunOptions& options, Transcript& transcript);
+    ~ScenarioRunner();
+    ScenarioRunner(const ScenarioRunner&) = delete;
+    ScenarioRunner& operator=(const ScenarioRunner&) = delete;
+
+    /// Runs every step; false when the library could not be loaded or a step was malformed.
+    bool Run(const std::vector<ScenarioStep>& steps);
+
+private:
+    void Execute(const ScenarioStep& step);
+    void Fail(const ScenarioStep& step, const std::string& why);
+    bool RequireSimulator(const ScenarioStep& step);
+
+    void StepDir(const ScenarioStep& step);
+    void StepCreate(const ScenarioStep& step);
+    void StepCallback(const ScenarioStep& step);
+    void StepScene(const ScenarioStep& step);
+    void StepSet(const ScenarioStep& step);
+    void StepGet(const ScenarioStep& step);
+    void StepCall(const ScenarioStep& step);
+    void StepFrame(const ScenarioStep& step);
+    void StepClock(const ScenarioStep& step);
+    void StepTime(const ScenarioStep& step);
+    void StepHost(const ScenarioStep& step);
+    void StepLog(const ScenarioStep& step);
+    void StepDestroy(const ScenarioStep& step);
+
+    void InstallLogSink();
+
+    RunOptions m_options;
+    Transcript& m_transcript;
+    SystemLibrary m_library;
+    IFlashSimulator* m_pSim = nullptr;
+    bool m_bLogOn = false;
+    bool m_bFailed = false;
+};
