@@ -47,7 +47,9 @@ void BM_GetStrHit(benchmark::State& state) {
 BENCHMARK(BM_GetStrHit);
 
 int g_received = 0;
-void CountCommand(const char*, const char*) { ++g_received; }
+void CountCommand(const char*, const char*) {
+    ++g_received;
+}
 
 void BM_NotifyHostTwoCallbacks(benchmark::State& state) {
     TempClientDir dir;

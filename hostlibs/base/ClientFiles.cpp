@@ -1,4 +1,5 @@
-// File access below the client directory: relative names, either slash, file names matched without regard to case.
+// File access below the client directory: relative names, either slash, file names matched without regard to
+// case.
 #include <dirent.h>
 #include <strings.h>
 #include <sys/stat.h>
@@ -34,7 +35,8 @@ std::string FindEntryIgnoringCase(const std::string& dir, const std::string& nam
     return found;
 }
 
-// The client's files are named as on Windows; resolve each component case-insensitively when the exact name is absent.
+// The client's files are named as on Windows; resolve each component case-insensitively when the exact name
+// is absent.
 std::string ResolveClientPath(const char* szPath) {
     std::string rel(szPath);
     for (char& c : rel)

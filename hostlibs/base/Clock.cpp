@@ -6,8 +6,12 @@
 
 int g_nDumpStep = 0;
 
-DWORD TimeGet() { return host::detail::Env().clockMs.load(); }
-DWORD GetTickCount() { return TimeGet(); }
+DWORD TimeGet() {
+    return host::detail::Env().clockMs.load();
+}
+DWORD GetTickCount() {
+    return TimeGet();
+}
 
 SLocalTime GetLocalCalendarTime() {
     std::lock_guard lock(host::detail::Env().mutex);
@@ -17,7 +21,7 @@ SLocalTime GetLocalCalendarTime() {
 std::string FormatSvrTime() {
     const SLocalTime t = GetLocalCalendarTime();
     char buf[32];
-    std::snprintf(buf, sizeof buf, "%04d-%02d-%02d %02d:%02d:%02d", t.nYear, t.nMonth, t.nDay, t.nHour, t.nMinute,
-                  t.nSecond);
+    std::snprintf(buf, sizeof buf, "%04d-%02d-%02d %02d:%02d:%02d", t.nYear, t.nMonth, t.nDay, t.nHour,
+                  t.nMinute, t.nSecond);
     return buf;
 }

@@ -9,7 +9,9 @@
 #include "BaseLib.h"
 
 namespace {
-bool IsBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n' || c == '\v' || c == '\f'; }
+bool IsBlank(char c) {
+    return c == ' ' || c == '\t' || c == '\r' || c == '\n' || c == '\v' || c == '\f';
+}
 
 // Length of the UTF-8 sequence a lead byte starts (1 for bytes that start none).
 std::size_t Utf8SequenceLength(unsigned char c) {
@@ -98,8 +100,8 @@ void Split(std::vector<CZrString>& vecOut, const char* szText, const char* szSep
             start = i;
             continue;
         }
-        // NOTE: in UTF-8 a separator byte can never sit inside a sequence, but skipping whole sequences keeps the
-        // split correct for multi-byte separators too.
+        // NOTE: in UTF-8 a separator byte can never sit inside a sequence, but skipping whole sequences keeps
+        // the split correct for multi-byte separators too.
         i += utf8 ? Utf8SequenceLength(static_cast<unsigned char>(text[i])) : 1;
     }
     vecOut.emplace_back(text.substr(start));
@@ -142,4 +144,22 @@ std::u16string StringToWString(const char* sz, UINT nCodePage) {
         }
     }
     return out;
+}
+
+void ConverCodeToOnlyEnglish(char* szText, std::size_t nSize) {
+    if (!szText || nSize == 0) return;
+    std::size_t out = 0;
+    for (std::size_t in = 0; in < nSize && szText[in] != '\0';) {
+        const auto c = static_cast<unsigned char>(szText[in]);
+        if (c >= 0x20 && c < 0x7F) {
+            szText[out++] = szText[in++];
+            continue;
+        }
+        std::size_t len = Utf8SequenceLength(c);
+        for (std::size_t k = 1; k < len; ++k)
+            if (in + k >= nSize || (static_cast<unsigned char>(szText[in + k]) & 0xC0) != 0x80) len = k;
+        in += len;
+        szText[out++] = c == '\n' ? '\n' : '?';
+    }
+    szText[out < nSize ? out : nSize - 1] = '\0';
 }

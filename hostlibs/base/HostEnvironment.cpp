@@ -22,8 +22,12 @@ void SetClientDir(const std::string& dir) {
     Env().clientDir = dir;
 }
 
-void AdvanceClock(DWORD ms) { Env().clockMs += ms; }
-void SetClock(DWORD ms) { Env().clockMs = ms; }
+void AdvanceClock(DWORD ms) {
+    Env().clockMs += ms;
+}
+void SetClock(DWORD ms) {
+    Env().clockMs = ms;
+}
 
 void SetLocalTime(const SLocalTime& t) {
     std::lock_guard lock(Env().mutex);

@@ -1,11 +1,12 @@
-// Shell and socket start-up of the base library: recorded, since this platform opens no pages and needs no Winsock.
+// Shell and socket start-up of the base library: recorded, since this platform opens no pages and needs no
+// Winsock.
 #include <string>
 
 #include "BaseLib.h"
 #include "hostlibs/HostEnv.h"
 
-HINSTANCE ShellExecuteA(HWND, const char* szOperation, const char* szFile, const char* szParameters, const char*,
-                        int nShowCmd) {
+HINSTANCE ShellExecuteA(HWND, const char* szOperation, const char* szFile, const char* szParameters,
+                        const char*, int nShowCmd) {
     host::Journal("shell.open", {{"op", szOperation ? szOperation : ""},
                                  {"file", szFile ? szFile : ""},
                                  {"params", szParameters ? szParameters : ""},
@@ -21,4 +22,6 @@ int WSAStartup(WORD wVersionRequested, WSADATA* pData) {
     return host::GetDataInt("wsa.fail", 0);
 }
 
-int WSACleanup() { return 0; }
+int WSACleanup() {
+    return 0;
+}

@@ -12,8 +12,9 @@ struct ThreadHandle {
 };
 } // namespace
 
-HANDLE CHandleHelper::CreateThreadProxy(void* /*pSecurity*/, std::size_t /*nStackSize*/, LPTHREAD_START_ROUTINE pfn,
-                                        void* pParam, DWORD /*dwFlags*/, DWORD* pThreadId) {
+HANDLE CHandleHelper::CreateThreadProxy(void* /*pSecurity*/, std::size_t /*nStackSize*/,
+                                        LPTHREAD_START_ROUTINE pfn, void* pParam, DWORD /*dwFlags*/,
+                                        DWORD* pThreadId) {
     if (!pfn) return nullptr;
     auto handle = std::make_unique<ThreadHandle>();
     auto done = handle->done;

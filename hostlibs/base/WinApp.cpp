@@ -10,7 +10,13 @@ HINSTANCE NextInstanceHandle() {
 }
 } // namespace
 
-CWinApp::CWinApp() : m_hInstance(NextInstanceHandle()) { g_hLastInstance = m_hInstance; }
+CWinApp::CWinApp() : m_hInstance(NextInstanceHandle()) {
+    g_hLastInstance = m_hInstance;
+}
 CWinApp::~CWinApp() = default;
-BOOL CWinApp::InitInstance() { return TRUE; }
-HINSTANCE AfxGetInstanceHandle() { return g_hLastInstance; }
+BOOL CWinApp::InitInstance() {
+    return TRUE;
+}
+HINSTANCE AfxGetInstanceHandle() {
+    return g_hLastInstance;
+}

@@ -1,4 +1,5 @@
-// Our game data library's data objects, driven by host data (see docs/HOSTDATA.md) and recording what they are told.
+// Our game data library's data objects, driven by host data (see docs/HOSTDATA.md) and recording what they
+// are told.
 #include <string>
 
 #include "GameData.h"
@@ -34,6 +35,7 @@ public:
         return m_strLanguage.c_str();
     }
     bool IsEnglishOnly() override { return host::GetDataInt("englishonly", 0) != 0; }
+    const char* MapFontName(const char* szFont) override { return szFont ? szFont : ""; }
 
 private:
     std::string m_strLanguage;

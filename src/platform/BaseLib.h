@@ -29,6 +29,9 @@ HOSTLIB_API int SafeSprintf(char* szBuf, std::size_t nSize, const char* szFormat
     __attribute__((format(printf, 3, 4)));
 /// Splits text at every occurrence of szSep. Code page 65001 (UTF-8) never splits inside a multi-byte character.
 HOSTLIB_API void Split(std::vector<CZrString>& vecOut, const char* szText, const char* szSep, UINT nCodePage);
+/// Replaces, in place, every character outside printable ASCII by "?" (one per character, UTF-8 aware), for
+/// clients that show English characters only; the text stays terminated within nSize bytes.
+HOSTLIB_API void ConverCodeToOnlyEnglish(char* szText, std::size_t nSize);
 /// UTF-8 (code page 65001) or Latin-1 (anything else) to UTF-16.
 HOSTLIB_API std::u16string StringToWString(const char* sz, UINT nCodePage);
 

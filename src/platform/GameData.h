@@ -38,6 +38,8 @@ public:
     virtual const char* GetLanguageName() = 0;
     /// Whether texts must be shown with English characters only.
     virtual bool IsEnglishOnly() = 0;
+    /// The font to draw with for a font name of the graphics library (the client maps it per language).
+    virtual const char* MapFontName(const char* szFont) = 0;
 
 protected:
     ~IRoleDataEx() = default;

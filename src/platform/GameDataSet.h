@@ -1,4 +1,5 @@
-// The game data library's animation set: the same animations as the animation library, fetched as the data set does.
+// The game data library's animation set: the same animations as the animation library, fetched as the data
+// set does.
 #pragma once
 
 #include "BaseLib.h"
@@ -7,11 +8,11 @@
 /// The game data library's animation set.
 class HOSTLIB_API IGameDataSet {
 public:
-    /// The animation titled szTitle in the animation file szFile, or null. nLoadMode, nTimeoutMs and nReserved are the
-    /// data set's loading arguments (1, 30000, 0 or 0, 30000, 0); here every animation loads at once. The animation
-    /// is owned by the library; Release() it after the draw.
-    virtual CMyAni* GetDataAni(const char* szFile, const char* szTitle, int nLoadMode = 1, int nTimeoutMs = 30000,
-                               int nReserved = 0) = 0;
+    /// The animation titled szTitle in the animation file szFile, or null. nLoadMode, nTimeoutMs and
+    /// nReserved are the data set's loading arguments (1, 30000, 0 or 0, 30000, 0); here every animation
+    /// loads at once. The animation is owned by the library; Release() it after the draw.
+    virtual CMyAni* GetDataAni(const char* szFile, const char* szTitle, int nLoadMode = 1,
+                               int nTimeoutMs = 30000, int nReserved = 0) = 0;
 
 protected:
     virtual ~IGameDataSet() = default;

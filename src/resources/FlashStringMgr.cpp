@@ -18,7 +18,8 @@ bool IsCommentLine(std::string_view line) {
     return line.empty() || line.front() == ';' || line.substr(0, 2) == "//";
 }
 
-// Reads a signed decimal number as "%d" would (leading blanks, sign, digits); saturates instead of overflowing.
+// Reads a signed decimal number as "%d" would (leading blanks, sign, digits); saturates instead of
+// overflowing.
 std::optional<std::int32_t> ReadDecimal(std::string_view text, std::size_t& pos) {
     while (pos < text.size() && (text[pos] == ' ' || text[pos] == '\t')) ++pos;
     bool negative = false;
@@ -47,7 +48,8 @@ std::optional<std::pair<std::int32_t, std::int32_t>> ReadRange(std::string_view 
     return std::pair{*first, *second};
 }
 
-// The second number in the high half, the first sign-extended over the whole key (as the widget library expects).
+// The second number in the high half, the first sign-extended over the whole key (as the widget library
+// expects).
 std::int64_t MakeRangedKey(std::int32_t first, std::int32_t second) {
     const std::uint64_t high = static_cast<std::uint64_t>(static_cast<std::uint32_t>(second)) << 32;
     const std::uint64_t low = static_cast<std::uint64_t>(static_cast<std::int64_t>(first));
@@ -119,7 +121,9 @@ const char* CFlashStringMgr::GetStr(std::uint32_t nId) const {
     return s_szMiss;
 }
 
-int CFlashStringMgr::GetStrInt(std::uint32_t nId) const { return SafeAtoi(GetStr(nId)); }
+int CFlashStringMgr::GetStrInt(std::uint32_t nId) const {
+    return SafeAtoi(GetStr(nId));
+}
 
 std::pair<std::int64_t, const char*> CFlashStringMgr::GetRanged(std::size_t nPos) const {
     if (nPos >= m_mapRanged.size()) return {0, ""};

@@ -1,11 +1,12 @@
-// The string table: texts, switches and layout numbers by id from "ini/FlashString.ini", plus the ranged entries.
+// The string table: texts, switches and layout numbers by id from "ini/FlashString.ini", plus the ranged
+// entries.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
 #include <map>
-#include <unordered_map>
 #include <string_view>
+#include <unordered_map>
 #include <utility>
 
 #include "platform/ZrString.h"
@@ -26,8 +27,8 @@ public:
     /// Empties the strings and the ranged strings (not the server configuration).
     void Clear();
 
-    /// The text of an id; "FlashStrIniting<id>" while loading, "NOSTR <id>" when missing. Never null; valid until
-    /// the next Clear (a fallback text only until the next miss).
+    /// The text of an id; "FlashStrIniting<id>" while loading, "NOSTR <id>" when missing. Never null; valid
+    /// until the next Clear (a fallback text only until the next miss).
     const char* GetStr(std::uint32_t nId) const;
     /// GetStr read as a decimal number; 0 when missing.
     int GetStrInt(std::uint32_t nId) const;

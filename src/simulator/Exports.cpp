@@ -3,6 +3,10 @@
 #include "simulator/FlashSimulator.h"
 
 extern "C" {
-FLASHSIM_EXPORT IFlashSimulator* FlashSimulatorQuery() { return FlashSimQuery(); }
-FLASHSIM_EXPORT void FlashSimulatorDestroy() { FlashSimDestroy(); }
+FLASHSIM_EXPORT IFlashSimulator* FlashSimulatorQuery() {
+    return FlashSimQuery();
+}
+FLASHSIM_EXPORT void FlashSimulatorDestroy() {
+    FlashSimDestroy();
+}
 }

@@ -1,4 +1,5 @@
-// The simulator object: creation, per-frame calls, the interface operations, commands to the host, destruction.
+// The simulator object: creation, per-frame calls, the interface operations, commands to the host,
+// destruction.
 #include "simulator/FlashSimulator.h"
 
 #include <cstring>
@@ -33,7 +34,9 @@ constexpr WORD WINSOCK_VERSION_1_1 = 0x0101;
 constexpr int SHOW_NORMAL = 5;
 } // namespace
 
-CFlashSimulator* FlashSim() { return g_pFlashSimulator; }
+CFlashSimulator* FlashSim() {
+    return g_pFlashSimulator;
+}
 
 CFlashSimulator* FlashSimQuery() {
     if (g_pFlashSimulator) return g_pFlashSimulator;
@@ -58,17 +61,20 @@ void FlashSimDestroy() {
     g_pFlashSimulator = nullptr;
 }
 
-// ---- construction and destruction ---------------------------------------------------------------------------------
+// ---- construction and destruction
+// ---------------------------------------------------------------------------------
 
 CFlashSimulator::CFlashSimulator()
-    : m_bCreated(false), m_pGuiMgr(LuGui::CreateNewGuiMgr()), m_pfnCallBack(nullptr), m_pfnCallBackEx(nullptr),
-      m_nFillGroup(-1), m_nModel(0), m_nGroup(-1), m_nServer(-1), m_nLoginStep(0), m_bNameChecked(false),
-      m_bRoleReady(false), m_nSelFirst(0), m_nSelSecond(0), m_bSelSet(false), m_eSceneType(EST_LOGIN),
-      m_bMusicOn(false), m_nLanguage(0), m_nProfession(0), m_nModelFace(0), m_nLookParity(0), m_nBaseInfoIndex(0),
-      m_nLoginOption(0), m_bNameSuggest(false), m_bDarkKnight(false), m_nNewServer(0), m_nSwitchA(0), m_nSwitchB(0),
-      m_nForcedType(0), m_nMainPathWidth(0), m_nMainPathHeight(0), m_bClassicTokenOnly(false),
-      m_bPlatformModeB(false), m_bPlatformModeA(false), m_bTokenEnabled(true), m_nPlayerListArg(1),
-      m_bRegisterOpen(false), m_bSceneSelectOption(false), m_nExtra1(0), m_nExtra2(0) {}
+    : m_bCreated(false), m_pGuiMgr(LuGui::CreateNewGuiMgr()), m_pfnCallBack(nullptr),
+      m_pfnCallBackEx(nullptr), m_nFillGroup(-1), m_nModel(0), m_nGroup(-1), m_nServer(-1), m_nLoginStep(0),
+      m_bNameChecked(false), m_bRoleReady(false), m_nSelFirst(0), m_nSelSecond(0), m_bSelSet(false),
+      m_eSceneType(EST_LOGIN), m_bMusicOn(false), m_nLanguage(0), m_nProfession(0), m_nModelFace(0),
+      m_nLookParity(0), m_nBaseInfoIndex(0), m_nLoginOption(0), m_bNameSuggest(false), m_bDarkKnight(false),
+      m_nNewServer(0), m_nSwitchA(0), m_nSwitchB(0), m_nForcedType(0), m_nMainPathWidth(0),
+      m_nMainPathHeight(0), m_bClassicTokenOnly(false), m_bPlatformModeB(false), m_bPlatformModeA(false),
+      m_bTokenEnabled(true), m_nPlayerListArg(1), m_bRegisterOpen(false), m_bSceneSelectOption(false),
+      m_nExtra1(0), m_nExtra2(0) {
+}
 
 CFlashSimulator::~CFlashSimulator() {
     if (m_pGuiMgr) {
@@ -78,9 +84,11 @@ CFlashSimulator::~CFlashSimulator() {
     // The remaining members (strings, lists, then the dialogs in reverse order) go with the object.
 }
 
-// ---- creation -----------------------------------------------------------------------------------------------------
+// ---- creation
+// -----------------------------------------------------------------------------------------------------
 
-void CFlashSimulator::Create(std::uint64_t hHost, std::uint32_t nHostValue, std::int32_t nLanguage, bool bRegister) {
+void CFlashSimulator::Create(std::uint64_t hHost, std::uint32_t nHostValue, std::int32_t nLanguage,
+                             bool bRegister) {
     if (m_bCreated) return;
     m_bCreated = true;
     m_nLanguage = nLanguage;
@@ -102,13 +110,34 @@ void CFlashSimulator::Create(std::uint64_t hHost, std::uint32_t nHostValue, std:
 
 void CFlashSimulator::RegisterDialogs() {
     if (!m_pGuiMgr) return;
-    // NOTE: the role-creation dialog is registered twice (fifth and tenth); the manager decides what that means.
+    // NOTE: the role-creation dialog is registered twice (fifth and tenth); the manager decides what that
+    // means.
     LuGui::CLuDialog* const order[] = {
-        &m_dlgBG,           &m_dlgSelectEdition,   &m_dlgSelectGroup,     &m_dlgSelectServer,  &m_dlgCreateRole,
-        &m_dlgFlashLogin,   &m_dlgConfirm,         &m_dlgRememberAccount, &m_dlgAddQuickEntry, &m_dlgCreateRole,
-        &m_dlgSelectPro,    &m_dlgSelectHead,      &m_dlgWeiXinLogin,     &m_dlgNewFlashLogin, &m_dlgWardSafeToken,
-        &m_dlgBaseInfo,     &m_dlgBack,            &m_dlgAction,          &m_dlgProIntro,      &m_dlgWebRegister,
-        &m_dlgScanCodeLogin, &m_dlgSwitchLanguage, &m_dlgSceneSelect,     &m_dlgFlashLoginEn,  &m_dlgCharacterEn,
+        &m_dlgBG,
+        &m_dlgSelectEdition,
+        &m_dlgSelectGroup,
+        &m_dlgSelectServer,
+        &m_dlgCreateRole,
+        &m_dlgFlashLogin,
+        &m_dlgConfirm,
+        &m_dlgRememberAccount,
+        &m_dlgAddQuickEntry,
+        &m_dlgCreateRole,
+        &m_dlgSelectPro,
+        &m_dlgSelectHead,
+        &m_dlgWeiXinLogin,
+        &m_dlgNewFlashLogin,
+        &m_dlgWardSafeToken,
+        &m_dlgBaseInfo,
+        &m_dlgBack,
+        &m_dlgAction,
+        &m_dlgProIntro,
+        &m_dlgWebRegister,
+        &m_dlgScanCodeLogin,
+        &m_dlgSwitchLanguage,
+        &m_dlgSceneSelect,
+        &m_dlgFlashLoginEn,
+        &m_dlgCharacterEn,
     };
     for (LuGui::CLuDialog* dialog : order) m_pGuiMgr->RegisterDialog(dialog, 0, 0);
 }
@@ -127,13 +156,16 @@ bool CFlashSimulator::OnGuiSound(const char* szName, std::int32_t n1, std::int32
     return DXPlaySound(szName, n1, n2, n3, n4, "", true) != nullptr;
 }
 
-// ---- callbacks and commands ---------------------------------------------------------------------------------------
+// ---- callbacks and commands
+// ---------------------------------------------------------------------------------------
 
 void CFlashSimulator::SetCallBack(FlashCallBack pfn) {
     if (m_bCreated) m_pfnCallBack = pfn;
 }
 
-void CFlashSimulator::SetCallBackEx(FlashCallBack pfn) { m_pfnCallBackEx = pfn; }
+void CFlashSimulator::SetCallBackEx(FlashCallBack pfn) {
+    m_pfnCallBackEx = pfn;
+}
 
 void CFlashSimulator::NotifyHost(const char* szCommand, const char* szArgument) {
     if (!szCommand || !szArgument) return;
@@ -141,7 +173,8 @@ void CFlashSimulator::NotifyHost(const char* szCommand, const char* szArgument) 
     if (m_pfnCallBackEx) m_pfnCallBackEx(szCommand, szArgument);
 }
 
-// ---- per-frame calls and messages ---------------------------------------------------------------------------------
+// ---- per-frame calls and messages
+// ---------------------------------------------------------------------------------
 
 void CFlashSimulator::Process() {
     g_nDumpStep = DUMP_PROCESS_BEGIN;
@@ -168,16 +201,20 @@ std::int32_t CFlashSimulator::PreTranslateMessage(MSG* pMsg) {
     return m_dlgWebRegister.PreTranslateMessage(pMsg);
 }
 
-bool CFlashSimulator::IsWebRegisterVisible() { return m_dlgWebRegister.IsWindowVisible() != FALSE; }
+bool CFlashSimulator::IsWebRegisterVisible() {
+    return m_dlgWebRegister.IsWindowVisible() != FALSE;
+}
 
 void CFlashSimulator::ManagerCall(UINT uMsg, WPARAM wParam, LPARAM lParam) {
     if (m_pGuiMgr) m_pGuiMgr->ManagerCall(uMsg, wParam, lParam);
 }
 
-// ---- variables and scenes -----------------------------------------------------------------------------------------
+// ---- variables and scenes
+// -----------------------------------------------------------------------------------------
 
 void CFlashSimulator::SetVariable(const char* szName, const char* szValue) {
-    // NOTE: the variable protocol's dispatch comes with the scene driver (docs/STATUS.md); until then nothing acts.
+    // NOTE: the variable protocol's dispatch comes with the scene driver (docs/STATUS.md); until then nothing
+    // acts.
     (void)szName;
     (void)szValue;
 }
@@ -187,18 +224,25 @@ const char* CFlashSimulator::GetVariable(const char* szName) {
     return nullptr;
 }
 
-void CFlashSimulator::SetSceneType(std::int32_t eScene) { m_eSceneType = static_cast<ESceneType>(eScene); }
+void CFlashSimulator::SetSceneType(std::int32_t eScene) {
+    m_eSceneType = static_cast<ESceneType>(eScene);
+}
 
 void CFlashSimulator::ShowMessage(std::uint32_t nStrId) {
     // NOTE: shown in the message box once it exists (docs/STATUS.md).
     (void)nStrId;
 }
 
-// ---- strings --------------------------------------------------------------------------------------------------------
+// ---- strings
+// --------------------------------------------------------------------------------------------------------
 
-const char* CFlashSimulator::GetStr(std::uint32_t nId) { return m_strMgr.GetStr(nId); }
+const char* CFlashSimulator::GetStr(std::uint32_t nId) {
+    return m_strMgr.GetStr(nId);
+}
 
-std::int32_t CFlashSimulator::GetStrInt(std::uint32_t nId) { return m_strMgr.GetStrInt(nId); }
+std::int32_t CFlashSimulator::GetStrInt(std::uint32_t nId) {
+    return m_strMgr.GetStrInt(nId);
+}
 
 void CFlashSimulator::ReloadStrings() {
     m_strMgr.Clear();
@@ -207,14 +251,17 @@ void CFlashSimulator::ReloadStrings() {
 
 void CFlashSimulator::RegisterRangedStrings() {
     if (!m_pGuiMgr) return;
-    m_strMgr.ForEachRanged([this](std::int64_t key, const char* text) { m_pGuiMgr->RegisterRangedString(key, text); });
+    m_strMgr.ForEachRanged(
+        [this](std::int64_t key, const char* text) { m_pGuiMgr->RegisterRangedString(key, text); });
 }
 
-// ---- creation parameters and stored values --------------------------------------------------------------------------
+// ---- creation parameters and stored values
+// --------------------------------------------------------------------------
 
-void CFlashSimulator::SetCreateRoleParam(std::int32_t nNewServer, std::int32_t nSwitchA, std::int32_t nSwitchB,
-                                         std::int32_t nArcher, std::int32_t nForcedType, bool bSceneSelect,
-                                         std::int32_t nExtra1, std::int32_t nExtra2) {
+void CFlashSimulator::SetCreateRoleParam(std::int32_t nNewServer, std::int32_t nSwitchA,
+                                         std::int32_t nSwitchB, std::int32_t nArcher,
+                                         std::int32_t nForcedType, bool bSceneSelect, std::int32_t nExtra1,
+                                         std::int32_t nExtra2) {
     if (nForcedType >= FORCED_TYPE_FIRST && nForcedType <= FORCED_TYPE_LAST) {
         // A forced profession hides every server-specific choice.
         m_nForcedType = nForcedType;
@@ -239,17 +286,27 @@ int CFlashSimulator::GetForcedTypeIndex() const {
     return 0;
 }
 
-void CFlashSimulator::SetClassicTokenOnly(bool bOnly) { m_bClassicTokenOnly = bOnly; }
-void CFlashSimulator::SetPlatformModeA(bool bOn) { m_bPlatformModeA = bOn; }
+void CFlashSimulator::SetClassicTokenOnly(bool bOnly) {
+    m_bClassicTokenOnly = bOnly;
+}
+void CFlashSimulator::SetPlatformModeA(bool bOn) {
+    m_bPlatformModeA = bOn;
+}
 
 void CFlashSimulator::SetPlatformModeB(bool bOn) {
     m_bPlatformModeB = bOn;
     RoleDataQueryEn()->SetPlatformModeB(static_cast<WORD>(bOn));
 }
 
-bool CFlashSimulator::IsPlatformModeA() { return m_bPlatformModeA; }
-bool CFlashSimulator::IsNameChecked() { return m_bNameChecked; }
-bool CFlashSimulator::IsRoleReady() { return m_bRoleReady; }
+bool CFlashSimulator::IsPlatformModeA() {
+    return m_bPlatformModeA;
+}
+bool CFlashSimulator::IsNameChecked() {
+    return m_bNameChecked;
+}
+bool CFlashSimulator::IsRoleReady() {
+    return m_bRoleReady;
+}
 
 void CFlashSimulator::SetNameCheck(bool bChecked, bool bReady, bool bUpdateReady) {
     m_bNameChecked = bChecked;
@@ -268,23 +325,45 @@ void CFlashSimulator::SetNameCheck(bool bChecked, bool bReady, bool bUpdateReady
     (void)PROFESSION_WITH_SCENE_CHOICE;
 }
 
-void CFlashSimulator::SetProfession(std::int32_t nProfession) { m_nProfession = nProfession; }
-std::int32_t CFlashSimulator::GetProfession() { return m_nProfession; }
-void CFlashSimulator::SetModelFace(std::int32_t nFace) { m_nModelFace = nFace; }
-std::int32_t CFlashSimulator::GetModelFace() { return m_nModelFace; }
-void CFlashSimulator::SetLookParity(std::int32_t nLook) { m_nLookParity = nLook % 2; }
-std::int32_t CFlashSimulator::GetLookParity() { return m_nLookParity; }
-void CFlashSimulator::SetBaseInfoIndex(std::int32_t nIndex) { m_nBaseInfoIndex = nIndex; }
-std::int32_t CFlashSimulator::GetBaseInfoIndex() { return m_nBaseInfoIndex; }
-void CFlashSimulator::SetLoginOption(std::int32_t nOption) { m_nLoginOption = nOption; }
-std::int32_t CFlashSimulator::GetLoginOption() { return m_nLoginOption; }
+void CFlashSimulator::SetProfession(std::int32_t nProfession) {
+    m_nProfession = nProfession;
+}
+std::int32_t CFlashSimulator::GetProfession() {
+    return m_nProfession;
+}
+void CFlashSimulator::SetModelFace(std::int32_t nFace) {
+    m_nModelFace = nFace;
+}
+std::int32_t CFlashSimulator::GetModelFace() {
+    return m_nModelFace;
+}
+void CFlashSimulator::SetLookParity(std::int32_t nLook) {
+    m_nLookParity = nLook % 2;
+}
+std::int32_t CFlashSimulator::GetLookParity() {
+    return m_nLookParity;
+}
+void CFlashSimulator::SetBaseInfoIndex(std::int32_t nIndex) {
+    m_nBaseInfoIndex = nIndex;
+}
+std::int32_t CFlashSimulator::GetBaseInfoIndex() {
+    return m_nBaseInfoIndex;
+}
+void CFlashSimulator::SetLoginOption(std::int32_t nOption) {
+    m_nLoginOption = nOption;
+}
+std::int32_t CFlashSimulator::GetLoginOption() {
+    return m_nLoginOption;
+}
 
 bool CFlashSimulator::SetNameSuggest(std::int32_t nValue) {
     m_bNameSuggest = nValue > 0;
     return m_bNameSuggest;
 }
 
-bool CFlashSimulator::GetNameSuggest() { return m_bNameSuggest; }
+bool CFlashSimulator::GetNameSuggest() {
+    return m_bNameSuggest;
+}
 
 void CFlashSimulator::FocusAccountField() {
     // NOTE: moves the main login dialog's focus once that dialog exists (docs/STATUS.md).
@@ -313,8 +392,12 @@ void CFlashSimulator::SetSelection(bool bSet, std::int32_t nFirst, std::int32_t 
     m_nSelSecond = nSecond;
 }
 
-void CFlashSimulator::SetPlayerListArg(std::int32_t nArg) { m_nPlayerListArg = nArg; }
-std::int32_t CFlashSimulator::GetPlayerListArg() { return m_nPlayerListArg; }
+void CFlashSimulator::SetPlayerListArg(std::int32_t nArg) {
+    m_nPlayerListArg = nArg;
+}
+std::int32_t CFlashSimulator::GetPlayerListArg() {
+    return m_nPlayerListArg;
+}
 
 void CFlashSimulator::ShowSwitchLanguage() {
     m_dlgSwitchLanguage.EnableWindow(TRUE);
@@ -325,7 +408,8 @@ void CFlashSimulator::RegisterRole() {
     // NOTE: starts the introduction panel's registration once that panel exists (docs/STATUS.md).
 }
 
-// ---- music ----------------------------------------------------------------------------------------------------------
+// ---- music
+// ----------------------------------------------------------------------------------------------------------
 
 void CFlashSimulator::SetMusic(bool bOn) {
     m_bMusicOn = bOn;
@@ -342,16 +426,18 @@ void CFlashSimulator::OpenWebAddress(const char* szAddress) {
     ShellExecuteA(nullptr, "open", szAddress, nullptr, nullptr, SHOW_NORMAL);
 }
 
-// ---- player list ------------------------------------------------------------------------------------------------------
+// ---- player list
+// ------------------------------------------------------------------------------------------------------
 
 HANDLE CFlashSimulator::StartPlayerListThread() {
     void* param = reinterpret_cast<void*>(static_cast<std::intptr_t>(m_nPlayerListArg));
-    return CHandleHelper::CreateThreadProxy(nullptr, 0, &CFlashSimulator::PlayerListThread, param, 0, nullptr);
+    return CHandleHelper::CreateThreadProxy(nullptr, 0, &CFlashSimulator::PlayerListThread, param, 0,
+                                            nullptr);
 }
 
 DWORD CFlashSimulator::PlayerListThread(void* pParam) {
-    // NOTE: machine faults cannot be caught portably here; the Windows build wraps this in a structured handler
-    // that reports through LogMsgError.
+    // NOTE: machine faults cannot be caught portably here; the Windows build wraps this in a structured
+    // handler that reports through LogMsgError.
     try {
         CHttpGetSvrPlayerList downloader;
         WSADATA wsa{};
@@ -359,7 +445,8 @@ DWORD CFlashSimulator::PlayerListThread(void* pParam) {
             CFlashSimulator* sim = FlashSim();
             const std::string address = sim ? sim->GetStr(STR_PLAYER_LIST_ADDRESS) : "";
             const int number = sim ? sim->GetStrInt(STR_PLAYER_LIST_NUMBER) : 0;
-            downloader.DownloadFile(address.c_str(), number, static_cast<int>(reinterpret_cast<std::intptr_t>(pParam)));
+            downloader.DownloadFile(address.c_str(), number,
+                                    static_cast<int>(reinterpret_cast<std::intptr_t>(pParam)));
             WSACleanup();
         }
     } catch (...) {

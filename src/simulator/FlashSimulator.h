@@ -1,4 +1,5 @@
-// The simulator object: owns every dialog, the dialog manager, the string table and the state the host drives.
+// The simulator object: owns every dialog, the dialog manager, the string table and the state the host
+// drives.
 #pragma once
 
 #include <cstdint>
@@ -48,8 +49,10 @@ public:
     CFlashSimulator();
     ~CFlashSimulator();
 
-    // ---- IFlashSimulator --------------------------------------------------------------------------------------
-    void Create(std::uint64_t hHost, std::uint32_t nHostValue, std::int32_t nLanguage, bool bRegister) override;
+    // ---- IFlashSimulator
+    // --------------------------------------------------------------------------------------
+    void Create(std::uint64_t hHost, std::uint32_t nHostValue, std::int32_t nLanguage,
+                bool bRegister) override;
     void SetCallBack(FlashCallBack pfn) override;
     void SetCallBackEx(FlashCallBack pfn) override;
     void SetVariable(const char* szName, const char* szValue) override;
@@ -63,9 +66,9 @@ public:
     void SetSceneType(std::int32_t eScene) override;
     const char* GetStr(std::uint32_t nId) override;
     std::int32_t GetStrInt(std::uint32_t nId) override;
-    void SetCreateRoleParam(std::int32_t nNewServer, std::int32_t nSwitchA, std::int32_t nSwitchB, std::int32_t nArcher,
-                            std::int32_t nForcedType, bool bSceneSelect, std::int32_t nExtra1,
-                            std::int32_t nExtra2) override;
+    void SetCreateRoleParam(std::int32_t nNewServer, std::int32_t nSwitchA, std::int32_t nSwitchB,
+                            std::int32_t nArcher, std::int32_t nForcedType, bool bSceneSelect,
+                            std::int32_t nExtra1, std::int32_t nExtra2) override;
     void SetClassicTokenOnly(bool bOnly) override;
     void SetPlatformModeA(bool bOn) override;
     void SetPlatformModeB(bool bOn) override;
@@ -99,7 +102,8 @@ public:
     void ManagerCall(UINT uMsg, WPARAM wParam, LPARAM lParam) override;
     void RegisterRole() override;
 
-    // ---- operations for the dialogs ---------------------------------------------------------------------------
+    // ---- operations for the dialogs
+    // ---------------------------------------------------------------------------
     /// Hands a command to the primary, then the secondary callback; nothing when either text is null.
     void NotifyHost(const char* szCommand, const char* szArgument);
     /// Switches the login music on or off (the track restarts when switched on).
@@ -124,7 +128,8 @@ public:
 private:
     void RegisterDialogs();
     void SwitchGuiHelper();
-    static bool OnGuiSound(const char* szName, std::int32_t n1, std::int32_t n2, std::int32_t n3, std::int32_t n4);
+    static bool OnGuiSound(const char* szName, std::int32_t n1, std::int32_t n2, std::int32_t n3,
+                           std::int32_t n4);
     static DWORD PlayerListThread(void* pParam);
 
     // Dialogs, in construction order (destroyed in the reverse order).

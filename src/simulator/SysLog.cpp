@@ -1,4 +1,5 @@
-// Adds the keys every structured line of the system carries ("svr_time", "__cb__") before handing it to the log.
+// Adds the keys every structured line of the system carries ("svr_time", "__cb__") before handing it to the
+// log.
 #include "simulator/SysLog.h"
 
 #include <string>
@@ -19,12 +20,15 @@ void Write(LogFn fn, const char* szFile, int nLine, std::string_view msg, std::s
 }
 } // namespace
 
-void SysLogInfo(const char* szFile, int nLine, std::string_view msg, std::string_view key, std::string_view value) {
+void SysLogInfo(const char* szFile, int nLine, std::string_view msg, std::string_view key,
+                std::string_view value) {
     Write(&_log::Info, szFile, nLine, msg, key, value);
 }
-void SysLogWarn(const char* szFile, int nLine, std::string_view msg, std::string_view key, std::string_view value) {
+void SysLogWarn(const char* szFile, int nLine, std::string_view msg, std::string_view key,
+                std::string_view value) {
     Write(&_log::Warn, szFile, nLine, msg, key, value);
 }
-void SysLogError(const char* szFile, int nLine, std::string_view msg, std::string_view key, std::string_view value) {
+void SysLogError(const char* szFile, int nLine, std::string_view msg, std::string_view key,
+                 std::string_view value) {
     Write(&_log::Error, szFile, nLine, msg, key, value);
 }

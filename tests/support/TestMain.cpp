@@ -16,11 +16,17 @@ State& S() {
     static State s;
     return s;
 }
-bool StartsWith(const std::string& s, const std::string& prefix) { return s.compare(0, prefix.size(), prefix) == 0; }
-bool IsProblem(const std::string& level) { return level == "WARN" || level == "ERROR" || level == "FAULT"; }
+bool StartsWith(const std::string& s, const std::string& prefix) {
+    return s.compare(0, prefix.size(), prefix) == 0;
+}
+bool IsProblem(const std::string& level) {
+    return level == "WARN" || level == "ERROR" || level == "FAULT";
+}
 } // namespace
 
-const std::vector<host::LogRecord>& Records() { return S().records; }
+const std::vector<host::LogRecord>& Records() {
+    return S().records;
+}
 
 void Expect(const std::string& level, const std::string& messagePrefix) {
     S().expected.emplace_back(level, messagePrefix);

@@ -15,24 +15,40 @@ struct Operation {
     std::function<std::optional<std::string>(IFlashSimulator&, const Args&)> run;
 };
 
-long long Num(const std::string& s) { return std::strtoll(s.c_str(), nullptr, 0); }
-std::int32_t I(const std::string& s) { return static_cast<std::int32_t>(Num(s)); }
-bool B(const std::string& s) { return s == "true" || (s != "false" && Num(s) != 0); }
-std::string Text(bool b) { return b ? "1" : "0"; }
-std::string Text(long long v) { return std::to_string(v); }
-std::string Text(const char* s) { return s ? s : "(null)"; }
+long long Num(const std::string& s) {
+    return std::strtoll(s.c_str(), nullptr, 0);
+}
+std::int32_t I(const std::string& s) {
+    return static_cast<std::int32_t>(Num(s));
+}
+bool B(const std::string& s) {
+    return s == "true" || (s != "false" && Num(s) != 0);
+}
+std::string Text(bool b) {
+    return b ? "1" : "0";
+}
+std::string Text(long long v) {
+    return std::to_string(v);
+}
+std::string Text(const char* s) {
+    return s ? s : "(null)";
+}
 
 // Stores an int setter/getter pair in the table.
-void IntPair(std::map<std::string, Operation>& ops, const char* set, void (IFlashSimulator::*setter)(std::int32_t),
-             const char* get, std::int32_t (IFlashSimulator::*getter)()) {
+void IntPair(std::map<std::string, Operation>& ops, const char* set,
+             void (IFlashSimulator::*setter)(std::int32_t), const char* get,
+             std::int32_t (IFlashSimulator::*getter)()) {
     ops[set] = {1, [setter](IFlashSimulator& s, const Args& a) {
                     (s.*setter)(I(a[0]));
                     return std::optional<std::string>();
                 }};
-    ops[get] = {0, [getter](IFlashSimulator& s, const Args&) { return std::optional(Text(static_cast<long long>((s.*getter)()))); }};
+    ops[get] = {0, [getter](IFlashSimulator& s, const Args&) {
+                    return std::optional(Text(static_cast<long long>((s.*getter)())));
+                }};
 }
 
-void BoolSetter(std::map<std::string, Operation>& ops, const char* name, void (IFlashSimulator::*setter)(bool)) {
+void BoolSetter(std::map<std::string, Operation>& ops, const char* name,
+                void (IFlashSimulator::*setter)(bool)) {
     ops[name] = {1, [setter](IFlashSimulator& s, const Args& a) {
                      (s.*setter)(B(a[0]));
                      return std::optional<std::string>();
@@ -40,7 +56,9 @@ void BoolSetter(std::map<std::string, Operation>& ops, const char* name, void (I
 }
 
 void BoolGetter(std::map<std::string, Operation>& ops, const char* name, bool (IFlashSimulator::*getter)()) {
-    ops[name] = {0, [getter](IFlashSimulator& s, const Args&) { return std::optional(Text(static_cast<long long>((s.*getter)()))); }};
+    ops[name] = {0, [getter](IFlashSimulator& s, const Args&) {
+                     return std::optional(Text(static_cast<long long>((s.*getter)())));
+                 }};
 }
 
 void Action(std::map<std::string, Operation>& ops, const char* name, void (IFlashSimulator::*action)()) {
@@ -57,7 +75,8 @@ std::map<std::string, Operation> BuildTable() {
                               s.SetVariable(a[0].c_str(), a[1].c_str());
                               return R();
                           }};
-    ops["GetVariable"] = {1, [](IFlashSimulator& s, const Args& a) { return R(Text(s.GetVariable(a[0].c_str()))); }};
+    ops["GetVariable"] = {
+        1, [](IFlashSimulator& s, const Args& a) { return R(Text(s.GetVariable(a[0].c_str()))); }};
     ops["ShowMessage"] = {1, [](IFlashSimulator& s, const Args& a) {
                               s.ShowMessage(static_cast<std::uint32_t>(Num(a[0])));
                               return R();
@@ -65,13 +84,17 @@ std::map<std::string, Operation> BuildTable() {
     Action(ops, "Process", &IFlashSimulator::Process);
     Action(ops, "Show", &IFlashSimulator::Show);
     ops["WindowProc"] = {3, [](IFlashSimulator& s, const Args& a) {
-                             return R(Text(static_cast<long long>(
-                                 s.WindowProc(nullptr, static_cast<UINT>(Num(a[0])),
-                                              static_cast<WPARAM>(Num(a[1])), static_cast<LPARAM>(Num(a[2]))))));
+                             return R(Text(static_cast<long long>(s.WindowProc(
+                                 nullptr, static_cast<UINT>(Num(a[0])), static_cast<WPARAM>(Num(a[1])),
+                                 static_cast<LPARAM>(Num(a[2]))))));
                          }};
     ops["PreTranslateMessage"] = {3, [](IFlashSimulator& s, const Args& a) {
-                                      MSG msg{nullptr, static_cast<UINT>(Num(a[0])), static_cast<WPARAM>(Num(a[1])),
-                                              static_cast<LPARAM>(Num(a[2])), 0, {0, 0}};
+                                      MSG msg{nullptr,
+                                              static_cast<UINT>(Num(a[0])),
+                                              static_cast<WPARAM>(Num(a[1])),
+                                              static_cast<LPARAM>(Num(a[2])),
+                                              0,
+                                              {0, 0}};
                                       return R(Text(static_cast<long long>(s.PreTranslateMessage(&msg))));
                                   }};
     BoolGetter(ops, "IsWebRegisterVisible", &IFlashSimulator::IsWebRegisterVisible);
@@ -82,12 +105,13 @@ std::map<std::string, Operation> BuildTable() {
     ops["GetStr"] = {1, [](IFlashSimulator& s, const Args& a) {
                          return R(Text(s.GetStr(static_cast<std::uint32_t>(Num(a[0])))));
                      }};
-    ops["GetStrInt"] = {1, [](IFlashSimulator& s, const Args& a) {
-                            return R(Text(static_cast<long long>(s.GetStrInt(static_cast<std::uint32_t>(Num(a[0]))))));
-                        }};
+    ops["GetStrInt"] = {
+        1, [](IFlashSimulator& s, const Args& a) {
+            return R(Text(static_cast<long long>(s.GetStrInt(static_cast<std::uint32_t>(Num(a[0]))))));
+        }};
     ops["SetCreateRoleParam"] = {8, [](IFlashSimulator& s, const Args& a) {
-                                     s.SetCreateRoleParam(I(a[0]), I(a[1]), I(a[2]), I(a[3]), I(a[4]), B(a[5]),
-                                                          I(a[6]), I(a[7]));
+                                     s.SetCreateRoleParam(I(a[0]), I(a[1]), I(a[2]), I(a[3]), I(a[4]),
+                                                          B(a[5]), I(a[6]), I(a[7]));
                                      return R();
                                  }};
     BoolSetter(ops, "SetClassicTokenOnly", &IFlashSimulator::SetClassicTokenOnly);
@@ -100,16 +124,20 @@ std::map<std::string, Operation> BuildTable() {
                                s.SetNameCheck(B(a[0]), B(a[1]), B(a[2]));
                                return R();
                            }};
-    IntPair(ops, "SetProfession", &IFlashSimulator::SetProfession, "GetProfession", &IFlashSimulator::GetProfession);
-    IntPair(ops, "SetModelFace", &IFlashSimulator::SetModelFace, "GetModelFace", &IFlashSimulator::GetModelFace);
-    IntPair(ops, "SetLookParity", &IFlashSimulator::SetLookParity, "GetLookParity", &IFlashSimulator::GetLookParity);
+    IntPair(ops, "SetProfession", &IFlashSimulator::SetProfession, "GetProfession",
+            &IFlashSimulator::GetProfession);
+    IntPair(ops, "SetModelFace", &IFlashSimulator::SetModelFace, "GetModelFace",
+            &IFlashSimulator::GetModelFace);
+    IntPair(ops, "SetLookParity", &IFlashSimulator::SetLookParity, "GetLookParity",
+            &IFlashSimulator::GetLookParity);
     IntPair(ops, "SetBaseInfoIndex", &IFlashSimulator::SetBaseInfoIndex, "GetBaseInfoIndex",
             &IFlashSimulator::GetBaseInfoIndex);
     IntPair(ops, "SetLoginOption", &IFlashSimulator::SetLoginOption, "GetLoginOption",
             &IFlashSimulator::GetLoginOption);
     IntPair(ops, "SetPlayerListArg", &IFlashSimulator::SetPlayerListArg, "GetPlayerListArg",
             &IFlashSimulator::GetPlayerListArg);
-    ops["SetNameSuggest"] = {1, [](IFlashSimulator& s, const Args& a) { return R(Text(s.SetNameSuggest(I(a[0])))); }};
+    ops["SetNameSuggest"] = {
+        1, [](IFlashSimulator& s, const Args& a) { return R(Text(s.SetNameSuggest(I(a[0])))); }};
     BoolGetter(ops, "GetNameSuggest", &IFlashSimulator::GetNameSuggest);
     Action(ops, "FocusAccountField", &IFlashSimulator::FocusAccountField);
     ops["SetRandomName"] = {1, [](IFlashSimulator& s, const Args& a) {
@@ -118,7 +146,8 @@ std::map<std::string, Operation> BuildTable() {
                             }};
     BoolGetter(ops, "IsNameUnchanged", &IFlashSimulator::IsNameUnchanged);
     ops["StartPlayerListThread"] = {0, [](IFlashSimulator& s, const Args&) {
-                                        // The host waits for the worker so that the transcript stays in order.
+                                        // The host waits for the worker so that the transcript stays in
+                                        // order.
                                         HANDLE h = s.StartPlayerListThread();
                                         if (!h) return R("(null)");
                                         WaitForSingleObject(h, INFINITE);

@@ -64,7 +64,8 @@ std::string UnescapeValue(std::string_view text) {
         } else if (next == 'n') {
             out.push_back('\n');
             ++i;
-        } else if (next == 'x' && i + 3 < text.size() && HexDigit(text[i + 2]) >= 0 && HexDigit(text[i + 3]) >= 0) {
+        } else if (next == 'x' && i + 3 < text.size() && HexDigit(text[i + 2]) >= 0 &&
+                   HexDigit(text[i + 3]) >= 0) {
             out.push_back(static_cast<char>(HexDigit(text[i + 2]) * 16 + HexDigit(text[i + 3])));
             i += 3;
         } else {

@@ -17,8 +17,12 @@ void PrintCommand(const char* prefix, const char* szCommand, const char* szArgum
                         EscapeText(szArgument ? szArgument : "") + "\"");
 }
 
-void OnPrimaryCommand(const char* szCommand, const char* szArgument) { PrintCommand(">", szCommand, szArgument); }
-void OnSecondaryCommand(const char* szCommand, const char* szArgument) { PrintCommand(">>", szCommand, szArgument); }
+void OnPrimaryCommand(const char* szCommand, const char* szArgument) {
+    PrintCommand(">", szCommand, szArgument);
+}
+void OnSecondaryCommand(const char* szCommand, const char* szArgument) {
+    PrintCommand(">>", szCommand, szArgument);
+}
 
 std::string LogValue(const std::string& value) {
     const std::string escaped = EscapeText(value);
@@ -121,7 +125,8 @@ void ScenarioRunner::StepCreate(const ScenarioStep& step) {
 void ScenarioRunner::StepCallback(const ScenarioStep& step) {
     if (!RequireSimulator(step)) return;
     if (step.words.size() == 2 && step.words[1] == "primary") return m_pSim->SetCallBack(&OnPrimaryCommand);
-    if (step.words.size() == 2 && step.words[1] == "secondary") return m_pSim->SetCallBackEx(&OnSecondaryCommand);
+    if (step.words.size() == 2 && step.words[1] == "secondary")
+        return m_pSim->SetCallBackEx(&OnSecondaryCommand);
     Fail(step, "callback takes primary or secondary");
 }
 

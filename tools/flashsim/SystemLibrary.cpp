@@ -4,7 +4,8 @@
 #include <dlfcn.h>
 
 SystemLibrary::~SystemLibrary() {
-    // NOTE: the library stays loaded until the process ends: worker threads it started may still be unwinding.
+    // NOTE: the library stays loaded until the process ends: worker threads it started may still be
+    // unwinding.
 }
 
 bool SystemLibrary::Load(const std::string& path) {

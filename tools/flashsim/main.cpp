@@ -1,4 +1,5 @@
-// flashsim: the reference host. "run FILE" prints a scenario's transcript; "check FILE" compares it with FILE.out.
+// flashsim: the reference host. "run FILE" prints a scenario's transcript; "check FILE" compares it with
+// FILE.out.
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>

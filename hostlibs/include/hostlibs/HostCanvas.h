@@ -1,8 +1,9 @@
-// The host side of the graphics library: which canvas receives the drawing, frames, recorded operations, PNG output.
+// The host side of the graphics library: which canvas receives the drawing, frames, recorded operations, PNG
+// output.
 //
-// Used by the reference host and the tests, never by the system. One canvas is current for the whole process; its
-// size is the screen size (host::SetScreenSize), read again at every BeginFrame. Until the host chooses, a recording
-// canvas is current.
+// Used by the reference host and the tests, never by the system. One canvas is current for the whole process;
+// its size is the screen size (host::SetScreenSize), read again at every BeginFrame. Until the host chooses,
+// a recording canvas is current.
 #pragma once
 
 #include <cstdint>
@@ -13,36 +14,38 @@
 
 namespace host {
 
-/// One recorded draw operation. Compound operations (animations, nine-patches, effects, bitmaps, string-resource
-/// pictures) are recorded once, not as the pixels and shapes they are made of.
-struct DrawOp {
+/// One recorded draw operation. Compound operations (animations, nine-patches, effects, bitmaps,
+/// string-resource pictures) are recorded once, not as the pixels and shapes they are made of.
+struct HOSTLIB_API DrawOp {
     /// "block", "rect", "line", "text", "bitmap", "ani", "nine", "effect", "strres", "strresui".
     std::string kind;
-    int x = 0, y = 0;   ///< top-left corner (a line's start)
-    int w = 0, h = 0;   ///< drawn size (a line: end point minus start)
-    DWORD colour = 0;   ///< 0xAARRGGBB; for images the alpha (0..255) they were drawn with
-    int size = 0;       ///< font size of texts
-    int frame = -1;     ///< frame of animations and effects
-    std::string text;   ///< UTF-8 text of texts
-    std::string file;   ///< animation file or bitmap file
-    std::string name;   ///< animation title or effect name
+    int x = 0, y = 0; ///< top-left corner (a line's start)
+    int w = 0, h = 0; ///< drawn size (a line: end point minus start)
+    DWORD colour = 0; ///< 0xAARRGGBB; for images the alpha (0..255) they were drawn with
+    int size = 0;     ///< font size of texts
+    int frame = -1;   ///< frame of animations and effects; the mode of string-resource text
+    std::string text; ///< UTF-8 text of texts
+    std::string file; ///< animation file or bitmap file
+    std::string name; ///< animation title or effect name
 
     /// One stable line: the kind, then the fields that the kind uses, e.g.
-    /// `text 10,20 80x14 #FFFFFFFF size=14 "Login"`, `ani ani/Control.ani:NewLogin_HookPic#0 5,6 20x20 a=255`.
+    /// `text 10,20 80x14 #FFFFFFFF size=14 "Login"`, `ani ani/Control.ani:NewLogin_HookPic#0 5,6 20x20
+    /// a=255`.
     std::string ToString() const;
 };
 
 enum class CanvasKind { Recording, Raster };
 
-/// Makes a new canvas of that kind current (screen size, cleared); the previous canvas and its content are dropped.
+/// Makes a new canvas of that kind current (screen size, cleared); the previous canvas and its content are
+/// dropped.
 HOSTLIB_API void UseCanvas(CanvasKind kind);
 HOSTLIB_API CanvasKind GetCanvasKind();
-/// Starts a frame: takes the screen size, clears the recording, fills the raster with dwClearColour, resets the
-/// clip rectangle to the whole screen.
+/// Starts a frame: takes the screen size, clears the recording, fills the raster with dwClearColour, resets
+/// the clip rectangle to the whole screen.
 HOSTLIB_API void BeginFrame(DWORD dwClearColour = 0xFF000000);
 
-/// The operations recorded since the last BeginFrame (empty for a raster canvas). At most kMaxRecordedOps are kept
-/// per frame; DroppedOpCount tells how many more were drawn.
+/// The operations recorded since the last BeginFrame (empty for a raster canvas). At most kMaxRecordedOps are
+/// kept per frame; DroppedOpCount tells how many more were drawn.
 inline constexpr std::size_t kMaxRecordedOps = 100000;
 HOSTLIB_API std::vector<DrawOp> GetRecordedOps();
 HOSTLIB_API std::size_t DroppedOpCount();

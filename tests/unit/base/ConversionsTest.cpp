@@ -58,3 +58,12 @@ TEST(StringToWString, DecodesUtf8AndReplacesBrokenSequences) {
     EXPECT_EQ(StringToWString("\xE4\xB8", 65001), std::u16string(u"\uFFFD\uFFFD"));
     EXPECT_EQ(StringToWString("\xE9", 1252), std::u16string(u"\u00E9"));
 }
+
+TEST(ConverCodeToOnlyEnglish, ReplacesEachNonAsciiCharacterOnceAndKeepsNewlines) {
+    char text[32] = "ab\xE4\xB8\xAD\n\xC3\xA9z";
+    ConverCodeToOnlyEnglish(text, sizeof text);
+    EXPECT_STREQ(text, "ab?\n?z");
+    char cut[4] = {'a', '\xE4', '\xB8', '\0'};
+    ConverCodeToOnlyEnglish(cut, sizeof cut);
+    EXPECT_STREQ(cut, "a?");
+}

@@ -1,4 +1,5 @@
-// The string table loader and lookups: file format, duplicates, ranged entries, fallbacks, long and odd lines.
+// The string table loader and lookups: file format, duplicates, ranged entries, fallbacks, long and odd
+// lines.
 #include <gtest/gtest.h>
 
 #include "LogCapture.h"

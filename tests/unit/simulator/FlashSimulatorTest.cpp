@@ -11,8 +11,12 @@
 
 namespace {
 std::vector<std::string> g_commands;
-void Primary(const char* cmd, const char* arg) { g_commands.push_back(std::string("1:") + cmd + "=" + arg); }
-void Secondary(const char* cmd, const char* arg) { g_commands.push_back(std::string("2:") + cmd + "=" + arg); }
+void Primary(const char* cmd, const char* arg) {
+    g_commands.push_back(std::string("1:") + cmd + "=" + arg);
+}
+void Secondary(const char* cmd, const char* arg) {
+    g_commands.push_back(std::string("2:") + cmd + "=" + arg);
+}
 
 class Simulator : public testing::Test {
 protected:
@@ -52,16 +56,18 @@ TEST_F(Simulator, CreateRegistersEveryDialogInOrderOnce) {
     CFlashSimulator* sim = FlashSimQuery();
     sim->Create(0, 0, 0, true);
     sim->Create(0, 0, 2, true);
-    const std::vector<std::string> expected = {"1004", "1000", "1001", "1002", "1008", "1003", "1005", "1006", "1007",
-                                               "1008", "1009", "1010", "1011", "1013", "1015", "1017", "1019", "1018",
-                                               "1016", "1020", "1021", "2000", "1022", "1023", "1024"};
+    const std::vector<std::string> expected = {"1004", "1000", "1001", "1002", "1008", "1003", "1005",
+                                               "1006", "1007", "1008", "1009", "1010", "1011", "1013",
+                                               "1015", "1017", "1019", "1018", "1016", "1020", "1021",
+                                               "2000", "1022", "1023", "1024"};
     EXPECT_EQ(Registered(), expected);
     EXPECT_EQ(host::JournalCount("gui.init"), 1);
     EXPECT_EQ(sim->GetLanguage(), 0);
 }
 
 TEST_F(Simulator, LayoutFileNameFollowsTheLanguage) {
-    const std::pair<int, const char*> cases[] = {{0, "FlashGui.ini"}, {-3, "FlashGui.ini"}, {2, "FlashGui_2.ini"}};
+    const std::pair<int, const char*> cases[] = {
+        {0, "FlashGui.ini"}, {-3, "FlashGui.ini"}, {2, "FlashGui_2.ini"}};
     for (const auto& [language, file] : cases) {
         FlashSimQuery()->Create(0, 0, language, false);
         ASSERT_FALSE(testlog::Records().empty());
@@ -143,7 +149,8 @@ TEST_F(Simulator, NameCheckSendsEachOnceEventOncePerProcess) {
     EXPECT_TRUE(sim->IsNameChecked());
     sim->SetNameCheck(true, true, false);
     EXPECT_FALSE(sim->IsRoleReady()) << "ready is stored only with update";
-    EXPECT_EQ(g_commands, std::vector<std::string>{"1:BURYING_POINT=412"}) << "the arguments decide, not the flags";
+    EXPECT_EQ(g_commands, std::vector<std::string>{"1:BURYING_POINT=412"})
+        << "the arguments decide, not the flags";
     sim->SetNameCheck(true, true, true);
     EXPECT_TRUE(sim->IsRoleReady());
     FlashSimDestroy();
@@ -168,7 +175,8 @@ TEST_F(Simulator, StoredValuesReadBack) {
     EXPECT_TRUE(sim->GetSelection(&a, &b));
     EXPECT_EQ(b, 4);
     EXPECT_TRUE(sim->GetSelection(nullptr, nullptr));
-    EXPECT_EQ(sim->PreTranslateMessage(nullptr), 1) << "hidden web register dialog: the message is not looked at";
+    EXPECT_EQ(sim->PreTranslateMessage(nullptr), 1)
+        << "hidden web register dialog: the message is not looked at";
     sim->SetPlatformModeB(true);
     EXPECT_EQ(host::JournalCount("gamedata.platformb"), 1);
 }

@@ -1,0 +1,62 @@
+// The current canvas and its drawing state; the canvas follows the host's screen size at every frame.
+#include "GraphicsState.h"
+
+#include "hostlibs/HostEnv.h"
+
+namespace gfx {
+namespace {
+constexpr DWORD kDefaultClearColour = 0xFF000000;
+}
+
+GraphicsState& GraphicsState::Instance() {
+    static GraphicsState state;
+    return state;
+}
+
+Rect GraphicsState::ScreenRect() {
+    int width = 0, height = 0;
+    host::GetScreenSize(width, height);
+    return {0, 0, width, height};
+}
+
+ICanvas& GraphicsState::Canvas() {
+    if (!m_canvas) Use(m_kind);
+    return *m_canvas;
+}
+
+void GraphicsState::Use(host::CanvasKind kind) {
+    m_kind = kind;
+    if (kind == host::CanvasKind::Raster) {
+        m_canvas = std::make_unique<RasterCanvas>();
+    } else {
+        m_canvas = std::make_unique<RecordingCanvas>();
+    }
+    BeginFrame(kDefaultClearColour);
+}
+
+void GraphicsState::BeginFrame(DWORD clearColour) {
+    const Rect screen = ScreenRect();
+    Canvas().Begin(screen.w, screen.h, clearColour);
+}
+
+RecordingCanvas* GraphicsState::Recording() {
+    return m_kind == host::CanvasKind::Recording ? static_cast<RecordingCanvas*>(&Canvas()) : nullptr;
+}
+
+RasterCanvas* GraphicsState::Raster() {
+    return m_kind == host::CanvasKind::Raster ? static_cast<RasterCanvas*>(&Canvas()) : nullptr;
+}
+
+RECT GraphicsState::SetClip(const RECT* prc) {
+    const RECT previous = Clip();
+    ICanvas& canvas = Canvas();
+    const Rect whole{0, 0, canvas.Width(), canvas.Height()};
+    canvas.SetClip(prc ? Rect::FromRECT(*prc).Intersect(whole) : whole);
+    return previous;
+}
+
+RECT GraphicsState::Clip() {
+    return Canvas().Clip().ToRECT();
+}
+
+} // namespace gfx

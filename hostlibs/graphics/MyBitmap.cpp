@@ -1,0 +1,137 @@
+// The graphics library's static operations (CMyBitmap): text, shapes, screen metrics, clip, camera and light.
+#include <algorithm>
+#include <cstring>
+
+#include "FontRenderer.h"
+#include "Graphics.h"
+#include "GraphicsState.h"
+#include "TextCodec.h"
+#include "hostlibs/HostEnv.h"
+
+namespace {
+constexpr int kDefaultFontSize = 14;
+constexpr const char* kDefaultFontName = "DejaVu Sans";
+// Longest text drawn or measured at once; longer texts are cut.
+constexpr std::size_t kMaxTextLength = 64 * 1024;
+constexpr DWORD kOpaqueAlpha = 0xFF000000;
+constexpr unsigned char kFirstLeadByte = 0xC2;
+constexpr unsigned char kLastLeadByte = 0xF4;
+
+int FontSizeOr(int size) {
+    return size > 0 ? size : kDefaultFontSize;
+}
+
+// Widget colours often carry no alpha; for text and lines such a colour means opaque.
+DWORD OpaqueIfNoAlpha(DWORD colour) {
+    return (colour & kOpaqueAlpha) == 0 ? colour | kOpaqueAlpha : colour;
+}
+
+std::u32string FromUtf8(const char* text) {
+    if (!text) return {};
+    return gfx::TextCodec::Utf8ToUtf32(std::string_view(text, strnlen(text, kMaxTextLength)));
+}
+
+std::u32string FromUtf16(const char16_t* text) {
+    return gfx::TextCodec::Utf16ToUtf32(
+        std::u16string_view(text, gfx::TextCodec::Utf16Length(text, kMaxTextLength)));
+}
+
+void DrawText(int x, int y, DWORD colour, const std::u32string& text, int size, bool antialias, int style,
+              DWORD effectColour, SIZE* pOutSize) {
+    size = gfx::FontRenderer::ClampSize(FontSizeOr(size));
+    if (pOutSize) {
+        *pOutSize = {gfx::FontRenderer::Instance().Measure(text, size),
+                     gfx::FontRenderer::MeasureHeight(text, size)};
+    }
+    if (text.empty()) return;
+    gfx::TextStyle textStyle;
+    textStyle.colour = OpaqueIfNoAlpha(colour);
+    textStyle.size = size;
+    textStyle.antialias = antialias;
+    textStyle.effect = style;
+    textStyle.effectColour = OpaqueIfNoAlpha(effectColour);
+    gfx::GraphicsState::Instance().Canvas().Text(x, y, text, textStyle);
+}
+} // namespace
+
+void CMyBitmap::ShowStringW(int x, int y, DWORD dwColor, const char16_t* szText, const char*, int nFontSize,
+                            bool bAntialias, int nStyle, DWORD dwEffectColor, SIZE* pOutSize, const void*) {
+    DrawText(x, y, dwColor, FromUtf16(szText), nFontSize, bAntialias, nStyle, dwEffectColor, pOutSize);
+}
+
+void CMyBitmap::ShowString(int x, int y, DWORD dwColor, const char* szText, const char*, int nFontSize,
+                           bool bAntialias, int nStyle, DWORD dwEffectColor, SIZE* pOutSize, const void*) {
+    DrawText(x, y, dwColor, FromUtf8(szText), nFontSize, bAntialias, nStyle, dwEffectColor, pOutSize);
+}
+
+int CMyBitmap::GetStringWidth(const char* szText, int nFontSize) {
+    return gfx::FontRenderer::Instance().Measure(FromUtf8(szText), FontSizeOr(nFontSize));
+}
+
+int CMyBitmap::GetStringWidthW(const char16_t* szText, int nFontSize) {
+    return gfx::FontRenderer::Instance().Measure(FromUtf16(szText), FontSizeOr(nFontSize));
+}
+
+int CMyBitmap::GetFontSize() {
+    return kDefaultFontSize;
+}
+
+const char* CMyBitmap::GetDefaultFontName() {
+    return kDefaultFontName;
+}
+
+bool CMyBitmap::IsDBCSLeadByte(unsigned char byte) {
+    return byte >= kFirstLeadByte && byte <= kLastLeadByte;
+}
+
+void CMyBitmap::ShowLine(int x1, int y1, int x2, int y2, DWORD dwColor) {
+    gfx::GraphicsState::Instance().Canvas().Line(x1, y1, x2, y2, OpaqueIfNoAlpha(dwColor));
+}
+
+void CMyBitmap::ShowBlock(const RECT& rc, DWORD dwColor) {
+    gfx::GraphicsState::Instance().Canvas().FillRect(gfx::Rect::FromRECT(rc), dwColor);
+}
+
+void CMyBitmap::ShowRect(const RECT& rc, DWORD dwColor) {
+    gfx::GraphicsState::Instance().Canvas().OutlineRect(gfx::Rect::FromRECT(rc), dwColor);
+}
+
+int CMyBitmap::GetScreenWidth() {
+    int width = 0, height = 0;
+    host::GetScreenSize(width, height);
+    return width;
+}
+
+int CMyBitmap::GetScreenHeight() {
+    int width = 0, height = 0;
+    host::GetScreenSize(width, height);
+    return height;
+}
+
+RECT CMyBitmap::SetClipRect(const RECT* prc) {
+    return gfx::GraphicsState::Instance().SetClip(prc);
+}
+
+RECT CMyBitmap::GetClipRect() {
+    return gfx::GraphicsState::Instance().Clip();
+}
+
+void CMyBitmap::GameCameraSet(int nCenterX, int nCenterY, double dDistance, int nMode) {
+    gfx::GraphicsState::Instance().camera = {nCenterX, nCenterY, dDistance, nMode};
+}
+
+void CMyBitmap::GameCameraGet(int& nCenterX, int& nCenterY, double& dDistance, int& nMode) {
+    const auto& camera = gfx::GraphicsState::Instance().camera;
+    nCenterX = camera.centerX;
+    nCenterY = camera.centerY;
+    dDistance = camera.distance;
+    nMode = camera.mode;
+}
+
+void CMyBitmap::EnableLight(bool bEnable) {
+    gfx::GraphicsState::Instance().lightEnabled = bEnable;
+}
+
+bool CMyBitmap::IsLightEnabled() {
+    return gfx::GraphicsState::Instance().lightEnabled;
+}

@@ -1,0 +1,80 @@
+// Recording of draw operations: compounds hide their parts so that a transcript reads as the caller drew.
+#include "RecordingCanvas.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "FontRenderer.h"
+#include "TextCodec.h"
+
+namespace gfx {
+namespace {
+// The pixels an operation may touch; lines and zero-sized operations count one pixel wide.
+Rect Bounds(const host::DrawOp& op) {
+    if (op.kind == "line") {
+        const int left = std::min(op.x, op.x + op.w);
+        const int top = std::min(op.y, op.y + op.h);
+        return {left, top, std::abs(op.w) + 1, std::abs(op.h) + 1};
+    }
+    return {op.x, op.y, std::max(op.w, 1), std::max(op.h, 1)};
+}
+} // namespace
+
+void RecordingCanvas::Begin(int width, int height, DWORD) {
+    m_width = width;
+    m_height = height;
+    m_clip = {0, 0, width, height};
+    m_compoundDepth = 0;
+    m_ops.clear();
+    m_dropped = 0;
+}
+
+void RecordingCanvas::Record(host::DrawOp op) {
+    if (m_compoundDepth > 0) return;
+    if (Bounds(op).Intersect(m_clip).Empty()) return;
+    if (m_ops.size() >= host::kMaxRecordedOps) {
+        ++m_dropped;
+        return;
+    }
+    m_ops.push_back(std::move(op));
+}
+
+void RecordingCanvas::FillRect(const Rect& rc, DWORD colour) {
+    if (rc.Empty()) return;
+    Record(OpBuilder("block", rc).Colour(colour));
+}
+
+void RecordingCanvas::OutlineRect(const Rect& rc, DWORD colour) {
+    if (rc.Empty()) return;
+    Record(OpBuilder("rect", rc).Colour(colour));
+}
+
+void RecordingCanvas::Line(int x1, int y1, int x2, int y2, DWORD colour) {
+    Record(OpBuilder("line", {x1, y1, x2 - x1, y2 - y1}).Colour(colour));
+}
+
+void RecordingCanvas::Text(int x, int y, const std::u32string& text, const TextStyle& style) {
+    if (text.empty()) return;
+    const int size = FontRenderer::ClampSize(style.size);
+    Record(OpBuilder("text", {x, y, FontRenderer::Instance().Measure(text, size),
+                              FontRenderer::MeasureHeight(text, size)})
+               .Colour(style.colour)
+               .Size(size)
+               .Text(TextCodec::Utf32ToUtf8(text)));
+}
+
+void RecordingCanvas::DrawImage(const Image&, const Rect&, const Rect& dst, int alpha) {
+    if (dst.Empty()) return;
+    Record(OpBuilder("image", dst).Colour(static_cast<DWORD>(alpha)));
+}
+
+void RecordingCanvas::BeginCompound(const host::DrawOp& op) {
+    Record(op);
+    ++m_compoundDepth;
+}
+
+void RecordingCanvas::EndCompound() {
+    if (m_compoundDepth > 0) --m_compoundDepth;
+}
+
+} // namespace gfx

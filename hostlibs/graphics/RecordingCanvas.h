@@ -1,0 +1,42 @@
+// A canvas that keeps what is drawn as a list of operations, for tests and transcripts.
+#pragma once
+
+#include <vector>
+
+#include "Canvas.h"
+
+namespace gfx {
+
+/// Records each primitive, or each outermost compound instead of its parts. Operations wholly outside the
+/// clip rectangle are not recorded (they are not seen); at most host::kMaxRecordedOps are kept per frame.
+class RecordingCanvas final : public ICanvas {
+public:
+    void Begin(int width, int height, DWORD clearColour) override;
+    int Width() const override { return m_width; }
+    int Height() const override { return m_height; }
+    Rect Clip() const override { return m_clip; }
+    void SetClip(const Rect& clip) override { m_clip = clip; }
+
+    void FillRect(const Rect& rc, DWORD colour) override;
+    void OutlineRect(const Rect& rc, DWORD colour) override;
+    void Line(int x1, int y1, int x2, int y2, DWORD colour) override;
+    void Text(int x, int y, const std::u32string& text, const TextStyle& style) override;
+    void DrawImage(const Image& image, const Rect& src, const Rect& dst, int alpha) override;
+    void BeginCompound(const host::DrawOp& op) override;
+    void EndCompound() override;
+
+    const std::vector<host::DrawOp>& Ops() const { return m_ops; }
+    std::size_t Dropped() const { return m_dropped; }
+
+private:
+    void Record(host::DrawOp op);
+
+    int m_width = 0;
+    int m_height = 0;
+    Rect m_clip;
+    int m_compoundDepth = 0;
+    std::vector<host::DrawOp> m_ops;
+    std::size_t m_dropped = 0;
+};
+
+} // namespace gfx

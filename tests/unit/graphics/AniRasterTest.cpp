@@ -1,0 +1,97 @@
+// Animation frames on the raster canvas: placeholders, pictures, nine-patches and opacity.
+#include "GameGraphic.h"
+#include "GraphicsFixture.h"
+#include "MyAni.h"
+
+namespace gfxtest {
+namespace {
+constexpr DWORD kRed = 0xFFFF0000;
+constexpr DWORD kGreen = 0xFF00FF00;
+constexpr DWORD kBlue = 0xFF0000FF;
+
+class AniRasterTest : public GraphicsTest {
+protected:
+    void SetUp() override {
+        GraphicsTest::SetUp();
+        UseRaster();
+    }
+};
+
+TEST_F(AniRasterTest, PlaceholderIsFilledOutlinedAndLabelled) {
+    m_dir.Write("ani/Control.ani", "[Btn]\nFrame0=box 40 20 FF0000FF FFFF0000 OK\n");
+    ASSERT_TRUE(CGameGraphic::ShowCtrlAni("Btn", 2, 3, 0));
+    EXPECT_EQ(Pixel(2, 3), kRed);
+    EXPECT_EQ(Pixel(41, 22), kRed);
+    EXPECT_EQ(Pixel(4, 5), kBlue);
+    EXPECT_EQ(Pixel(42, 3), kBackground);
+    int label = 0;
+    for (int y = 4; y < 22; ++y)
+        for (int x = 3; x < 41; ++x) label += Pixel(x, y) != kBlue ? 1 : 0;
+    EXPECT_GT(label, 10) << "the label is drawn inside the box";
+}
+
+TEST_F(AniRasterTest, PictureFrameScalesAndBlendsWithItsAlpha) {
+    WriteBmp("pic/dot.bmp", 2, 1, [](int x, int) { return x == 0 ? kRed : kGreen; });
+    m_dir.Write("ani/Control.ani", "[Dot]\nFrame0=pic/dot.bmp\n");
+    CMyAni* ani = QueryMyAniMgr()->QueryAni("ani/Control.ani", "Dot");
+    ASSERT_NE(ani, nullptr);
+    ASSERT_TRUE(ani->Show(0, 10, 10, 3.0f, 2.0f));
+    EXPECT_EQ(Pixel(10, 10), kRed);
+    EXPECT_EQ(Pixel(12, 11), kRed);
+    EXPECT_EQ(Pixel(13, 11), kGreen);
+    EXPECT_EQ(Pixel(16, 10), kBackground);
+    EXPECT_EQ(Pixel(10, 12), kBackground);
+    ASSERT_TRUE(ani->Show(0, 30, 30, 1.0f, 1.0f, 128));
+    EXPECT_NEAR(static_cast<int>((Pixel(30, 30) >> 16) & 0xFF), 128, 1);
+    ani->Release();
+}
+
+TEST_F(AniRasterTest, NineFramesKeepTheirCornersAndStretchTheRest) {
+    m_dir.Write("ani/Control.ani",
+                "[Nine]\n"
+                "Frame0=box 4 3 FFFF0000\nFrame1=box 1 3 FF00FF00\nFrame2=box 4 3 FFFF0000\n"
+                "Frame3=box 4 1 FF00FF00\nFrame4=box 1 1 FF0000FF\nFrame5=box 4 1 FF00FF00\n"
+                "Frame6=box 4 3 FFFF0000\nFrame7=box 1 3 FF00FF00\nFrame8=box 4 3 FFFF0000\n");
+    ASSERT_TRUE(CGameGraphic::ShowNineImageBackGround("Nine", 10, 10, 20, 12));
+    EXPECT_EQ(Pixel(10, 10), kRed);
+    EXPECT_EQ(Pixel(13, 12), kRed);
+    EXPECT_EQ(Pixel(14, 10), kGreen);
+    EXPECT_EQ(Pixel(25, 12), kGreen);
+    EXPECT_EQ(Pixel(26, 10), kRed);
+    EXPECT_EQ(Pixel(10, 13), kGreen);
+    EXPECT_EQ(Pixel(20, 15), kBlue);
+    EXPECT_EQ(Pixel(29, 21), kRed);
+    EXPECT_EQ(Pixel(30, 21), kBackground);
+    EXPECT_EQ(Pixel(29, 22), kBackground);
+}
+
+TEST_F(AniRasterTest, OnePictureIsCutByItsBorderInsets) {
+    WriteBmp("pic/panel.bmp", 3, 3, [](int x, int y) {
+        if (x == 1 && y == 1) return kBlue;
+        return (x == 1 || y == 1) ? kGreen : kRed;
+    });
+    m_dir.Write("ani/Control.ani", "[Panel]\nBorder=1,1,1,1\nFrame0=pic/panel.bmp\n");
+    ASSERT_TRUE(CGameGraphic::ShowNineImageBackGround("Panel", 0, 0, 9, 7));
+    EXPECT_EQ(Pixel(0, 0), kRed);
+    EXPECT_EQ(Pixel(8, 6), kRed);
+    EXPECT_EQ(Pixel(1, 0), kGreen);
+    EXPECT_EQ(Pixel(7, 0), kGreen);
+    EXPECT_EQ(Pixel(0, 3), kGreen);
+    EXPECT_EQ(Pixel(1, 1), kBlue);
+    EXPECT_EQ(Pixel(7, 5), kBlue);
+}
+
+TEST_F(AniRasterTest, CornersLargerThanTheAreaShrinkInProportion) {
+    m_dir.Write("ani/Control.ani",
+                "[Nine]\n"
+                "Frame0=box 6 6 FFFF0000\nFrame1=box 1 6 FF00FF00\nFrame2=box 2 6 FF0000FF\n"
+                "Frame3=box 6 1 FF00FF00\nFrame4=box 1 1 FF00FF00\nFrame5=box 2 1 FF00FF00\n"
+                "Frame6=box 6 2 FFFF0000\nFrame7=box 1 2 FF00FF00\nFrame8=box 2 2 FF0000FF\n");
+    ASSERT_TRUE(CGameGraphic::ShowNineImageBackGround("Nine", 0, 0, 4, 4));
+    EXPECT_EQ(Pixel(2, 0), kRed) << "6 of 8 columns become 3 of 4";
+    EXPECT_EQ(Pixel(3, 0), kBlue);
+    EXPECT_EQ(Pixel(4, 0), kBackground);
+}
+
+} // namespace
+} // namespace gfxtest
