@@ -60,6 +60,12 @@ struct SLocalTime {
 };
 HOSTLIB_API SLocalTime GetLocalCalendarTime();
 
+/// The current local time as seconds of the local calendar since 1970-01-01 00:00 (no time zone); false when the
+/// clock cannot be read.
+HOSTLIB_API bool GetSafeLocalTime(std::int64_t& nSeconds);
+/// Minutes since 1970-01-01 00:00 of the local calendar, as the seconds GetSafeLocalTime counts.
+HOSTLIB_API std::int64_t GetTimeFromIntervalMin(std::int64_t nMinutes);
+
 /// Last step reached by the per-frame calls, read by the host's crash dump.
 extern HOSTLIB_API int g_nDumpStep;
 
@@ -80,6 +86,16 @@ inline constexpr DWORD WAIT_TIMEOUT = 258;
 HOSTLIB_API DWORD WaitForSingleObject(HANDLE hHandle, DWORD dwMilliseconds);
 /// Releases a handle (joining a thread that has ended, detaching one that has not).
 HOSTLIB_API BOOL CloseHandle(HANDLE hHandle);
+
+// ---- INI files ------------------------------------------------------------------------------------------------------
+
+/// Reads a key of a section of an INI file below the client directory into szBuf (nSize bytes, truncated, always
+/// terminated); szDefault when the file, the section or the key is missing. Sections and keys match without regard
+/// to case; blanks around keys and values are trimmed. Returns the number of bytes copied.
+HOSTLIB_API DWORD MyGetPrivateProfileString(const char* szSection, const char* szKey, const char* szDefault,
+                                            char* szBuf, DWORD nSize, const char* szFile);
+/// Reads a key as a decimal integer (SafeAtoi); nDefault when it is missing.
+HOSTLIB_API int MyGetPrivateProfileInt(const char* szSection, const char* szKey, int nDefault, const char* szFile);
 
 // ---- shell ----------------------------------------------------------------------------------------------------------
 

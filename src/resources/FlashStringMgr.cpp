@@ -1,12 +1,14 @@
 // Loads "ini/FlashString.ini" line by line and answers lookups by id, with the fallback texts for misses.
 #include "resources/FlashStringMgr.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "platform/BaseLib.h"
+#include "resources/TextScan.h"
 #include "simulator/SysLog.h"
 
 namespace {
@@ -18,34 +20,12 @@ bool IsCommentLine(std::string_view line) {
     return line.empty() || line.front() == ';' || line.substr(0, 2) == "//";
 }
 
-// Reads a signed decimal number as "%d" would (leading blanks, sign, digits); saturates instead of
-// overflowing.
-std::optional<std::int32_t> ReadDecimal(std::string_view text, std::size_t& pos) {
-    while (pos < text.size() && (text[pos] == ' ' || text[pos] == '\t')) ++pos;
-    bool negative = false;
-    if (pos < text.size() && (text[pos] == '-' || text[pos] == '+')) negative = text[pos++] == '-';
-    const std::size_t digitsStart = pos;
-    std::int64_t value = 0;
-    for (; pos < text.size() && text[pos] >= '0' && text[pos] <= '9'; ++pos)
-        if (value <= INT32_MAX) value = value * 10 + (text[pos] - '0');
-    if (pos == digitsStart) return std::nullopt;
-    if (negative) value = -value;
-    if (value > INT32_MAX) value = INT32_MAX;
-    if (value < INT32_MIN) value = INT32_MIN;
-    return static_cast<std::int32_t>(value);
-}
-
 // The "[first-second]" prefix of a ranged value; nothing unless both numbers are there.
 std::optional<std::pair<std::int32_t, std::int32_t>> ReadRange(std::string_view value) {
-    std::size_t pos = 0;
     if (value.empty() || value[0] != '[') return std::nullopt;
-    ++pos;
-    const auto first = ReadDecimal(value, pos);
-    if (!first || pos >= value.size() || value[pos] != '-') return std::nullopt;
-    ++pos;
-    const auto second = ReadDecimal(value, pos);
-    if (!second) return std::nullopt;
-    return std::pair{*first, *second};
+    const auto numbers = textscan::ReadIntsSeparated(value.substr(1), '-', 2);
+    if (numbers.size() != 2) return std::nullopt;
+    return std::pair{numbers[0], numbers[1]};
 }
 
 // The second number in the high half, the first sign-extended over the whole key (as the widget library
@@ -58,7 +38,7 @@ std::int64_t MakeRangedKey(std::int32_t first, std::int32_t second) {
 } // namespace
 
 void CFlashStringMgr::Load() {
-    // NOTE: the server configuration is loaded here first once the server lists exist (see docs/STATUS.md).
+    LoadServerCfg();
     m_bLoading = true;
     Clear();
     m_mapStrings.reserve(LINES_RESERVED);
@@ -130,4 +110,116 @@ std::pair<std::int64_t, const char*> CFlashStringMgr::GetRanged(std::size_t nPos
     auto it = m_mapRanged.begin();
     std::advance(it, static_cast<std::ptrdiff_t>(nPos));
     return {it->first, it->second.c_str()};
+}
+
+// ---- server configuration
+// ---------------------------------------------------------------------------------------
+
+namespace {
+constexpr std::size_t CFG_TEXT_SIZE = 1024;
+constexpr std::size_t CFG_TIME_SIZE = 256;
+constexpr std::size_t CFG_NAME_SIZE = 64;
+// Bounds the loops a damaged file could make endless; no real category comes near them.
+constexpr int MAX_CFG_GROUPS = 1024;
+constexpr int MAX_CFG_SERVERS = 1024;
+
+struct SCfgCategory {
+    const char* szHeader;
+    const char* szGroupPrefix;
+    std::int32_t nModel;
+};
+constexpr SCfgCategory CFG_CATEGORIES[] = {
+    {"Header", "Group", 2},         {"HeaderClassics", "GroupClassics", 1},
+    {"HeaderQQ", "GroupQQ", 4},     {"HeaderTime", "GroupTime", 3},
+    {"HeaderBoss", "GroupBoss", 5}, {"HeaderTianYi", "GroupTianYi", 6},
+};
+
+std::string ReadCfgText(const char* szSection, const char* szKey, std::size_t nSize = CFG_TEXT_SIZE) {
+    std::vector<char> buf(nSize);
+    MyGetPrivateProfileString(szSection, szKey, "", buf.data(), static_cast<DWORD>(nSize),
+                              CFlashStringMgr::SERVER_CFG_FILE);
+    return buf.data();
+}
+
+int ReadCfgInt(const char* szSection, const char* szKey) {
+    return MyGetPrivateProfileInt(szSection, szKey, 0, CFlashStringMgr::SERVER_CFG_FILE);
+}
+
+std::string KeyName(const char* szFormat, int n) {
+    char key[CFG_NAME_SIZE];
+    SafeSprintf(key, sizeof key, "%s%d", szFormat, n);
+    return key;
+}
+
+// "start-end" in minutes; both stay 0 unless both numbers are there.
+void ReadAchTime(const std::string& text, std::int32_t& nStart, std::int32_t& nEnd) {
+    const auto numbers = textscan::ReadIntsSeparated(text, '-', 2);
+    if (numbers.size() != 2) return;
+    nStart = numbers[0];
+    nEnd = numbers[1];
+}
+
+SCfgServer ReadCfgServer(const char* szSection, int n) {
+    SCfgServer server;
+    server.bAchTips = ReadCfgInt(szSection, KeyName("AchTips", n).c_str()) > 0;
+    ReadAchTime(ReadCfgText(szSection, KeyName("AchTime", n).c_str(), CFG_TIME_SIZE), server.nAchStart,
+                server.nAchEnd);
+    server.bSpecialMark = ReadCfgInt(szSection, KeyName("SpecialMark", n).c_str()) > 0;
+    server.dwNameColor = static_cast<std::uint32_t>(
+        SafeStrtoul(ReadCfgText(szSection, KeyName("SpecialNameColor", n).c_str()).c_str(), 16));
+    server.strSpecialEffect = ReadCfgText(szSection, KeyName("SpecialEffect", n).c_str());
+    server.strSpecialBg = ReadCfgText(szSection, KeyName("SpecialBg", n).c_str());
+    server.strSpecialIntroduce = ReadCfgText(szSection, KeyName("SpecialIntroduce", n).c_str());
+    server.strSpecialDetailTip = ReadCfgText(szSection, KeyName("SpecialDetailTip", n).c_str());
+    return server;
+}
+} // namespace
+
+void CFlashStringMgr::LoadServerCfg() {
+    for (const SCfgCategory& category : CFG_CATEGORIES)
+        LoadCfgCategory(category.szHeader, category.szGroupPrefix, category.nModel);
+}
+
+void CFlashStringMgr::LoadCfgCategory(const char* szHeader, const char* szGroupPrefix, std::int32_t nModel) {
+    const int nGroupAmount = std::min(ReadCfgInt(szHeader, "GroupAmount"), MAX_CFG_GROUPS);
+    if (nGroupAmount <= 0) return;
+    CfgGroupMap& groups = m_mapServerCfg[nModel];
+    for (int g = 1; g <= nGroupAmount; ++g) {
+        char section[CFG_NAME_SIZE];
+        SafeSprintf(section, sizeof section, "%s%d", szGroupPrefix, g);
+        const int nServerAmount = std::min(ReadCfgInt(section, "ServerAmount"), MAX_CFG_SERVERS);
+        if (nServerAmount <= 0) continue;
+        if (groups.count(g - 1)) continue; // a reload adds groups but never changes loaded ones
+        SCfgGroup group;
+        group.strGroupTips = ReadCfgText(section, "GroupTips");
+        group.strGroupDetailTips = ReadCfgText(section, "GroupDetailTips");
+        for (int n = 1; n <= nServerAmount; ++n) {
+            const std::int32_t id = ReadCfgInt(section, KeyName("Server", n).c_str());
+            SCfgServer server = ReadCfgServer(section, n);
+            group.bAchTips = group.bAchTips || server.bAchTips;
+            group.bSpecialMark = group.bSpecialMark || server.bSpecialMark;
+            group.mapServers.emplace(id, std::move(server)); // the first entry of an id stays
+        }
+        groups.emplace(g - 1, std::move(group));
+    }
+}
+
+const CfgGroupMap* CFlashStringMgr::GetCfgGroups(std::int32_t nModel) const {
+    const auto it = m_mapServerCfg.find(nModel);
+    return it == m_mapServerCfg.end() ? nullptr : &it->second;
+}
+
+const SCfgGroup* CFlashStringMgr::GetCfgGroup(std::int32_t nModel, std::int32_t nGroup) const {
+    const CfgGroupMap* groups = GetCfgGroups(nModel);
+    if (!groups) return nullptr;
+    const auto it = groups->find(nGroup);
+    return it == groups->end() ? nullptr : &it->second;
+}
+
+const SCfgServer* CFlashStringMgr::GetCfgServer(std::int32_t nModel, std::int32_t nGroup,
+                                                std::int32_t nServer) const {
+    const SCfgGroup* group = GetCfgGroup(nModel, nGroup);
+    if (!group) return nullptr;
+    const auto it = group->mapServers.find(nServer + 1);
+    return it == group->mapServers.end() ? nullptr : &it->second;
 }

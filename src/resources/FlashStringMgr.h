@@ -10,10 +10,12 @@
 #include <utility>
 
 #include "platform/ZrString.h"
+#include "resources/ServerCfg.h"
 
 class CFlashStringMgr {
 public:
     static constexpr const char* STRING_FILE = "ini/FlashString.ini";
+    static constexpr const char* SERVER_CFG_FILE = "ini/ServerCfg.ini";
     static constexpr std::uint32_t RANGED_ID_FIRST = 50000000;
     static constexpr std::uint32_t RANGED_ID_LAST = 60000000;
 
@@ -22,8 +24,12 @@ public:
     CFlashStringMgr(const CFlashStringMgr&) = delete;
     CFlashStringMgr& operator=(const CFlashStringMgr&) = delete;
 
-    /// Loads the string table from the client directory (the earlier entries are cleared first).
+    /// Loads the server configuration (adding only), then the string table (the earlier entries are cleared
+    /// first).
     void Load();
+    /// Loads the six categories of the server configuration; groups and servers already loaded stay
+    /// unchanged.
+    void LoadServerCfg();
     /// Empties the strings and the ranged strings (not the server configuration).
     void Clear();
 
@@ -39,6 +45,14 @@ public:
     /// The ranged entry at a position in ascending key order; key 0 and an empty text past the end.
     std::pair<std::int64_t, const char*> GetRanged(std::size_t nPos) const;
     /// Calls fn(key, text) for every ranged entry in ascending key order.
+    /// Configured groups of a model; null when the model has none.
+    const CfgGroupMap* GetCfgGroups(std::int32_t nModel) const;
+    /// Configured group of (model, 0-based group index); null when missing.
+    const SCfgGroup* GetCfgGroup(std::int32_t nModel, std::int32_t nGroup) const;
+    /// Configured server of (model, 0-based group index, 0-based server index); null when any level is
+    /// missing.
+    const SCfgServer* GetCfgServer(std::int32_t nModel, std::int32_t nGroup, std::int32_t nServer) const;
+
     template <class Fn> void ForEachRanged(Fn fn) const {
         for (const auto& [key, text] : m_mapRanged) fn(key, text.c_str());
     }
@@ -46,9 +60,11 @@ public:
 private:
     void AddLine(std::string_view line);
     void AddRanged(std::string_view value);
+    void LoadCfgCategory(const char* szHeader, const char* szGroupPrefix, std::int32_t nModel);
 
     // Lookups are the hot path and nothing walks the plain strings in order, so they live in a hash map.
     std::unordered_map<std::uint32_t, CZrString> m_mapStrings;
     std::map<std::int64_t, CZrString> m_mapRanged;
     bool m_bLoading = false;
+    std::map<std::int32_t, CfgGroupMap> m_mapServerCfg; ///< by model number
 };

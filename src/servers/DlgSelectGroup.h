@@ -9,4 +9,7 @@ public:
 
     CDlgSelectGroup();
     ~CDlgSelectGroup() override;
+
+    /// Fills the group buttons from the simulator's live list and refreshes the achievement tips.
+    void RefillGroups();
 };

@@ -61,8 +61,7 @@ void FlashSimDestroy() {
     g_pFlashSimulator = nullptr;
 }
 
-// ---- construction and destruction
-// ---------------------------------------------------------------------------------
+// ---- construction and destruction ----------------------------------------------------------------
 
 CFlashSimulator::CFlashSimulator()
     : m_bCreated(false), m_pGuiMgr(LuGui::CreateNewGuiMgr()), m_pfnCallBack(nullptr),
@@ -84,8 +83,7 @@ CFlashSimulator::~CFlashSimulator() {
     // The remaining members (strings, lists, then the dialogs in reverse order) go with the object.
 }
 
-// ---- creation
-// -----------------------------------------------------------------------------------------------------
+// ---- creation ------------------------------------------------------------------------------------
 
 void CFlashSimulator::Create(std::uint64_t hHost, std::uint32_t nHostValue, std::int32_t nLanguage,
                              bool bRegister) {
@@ -156,8 +154,7 @@ bool CFlashSimulator::OnGuiSound(const char* szName, std::int32_t n1, std::int32
     return DXPlaySound(szName, n1, n2, n3, n4, "", true) != nullptr;
 }
 
-// ---- callbacks and commands
-// ---------------------------------------------------------------------------------------
+// ---- callbacks and commands ----------------------------------------------------------------------
 
 void CFlashSimulator::SetCallBack(FlashCallBack pfn) {
     if (m_bCreated) m_pfnCallBack = pfn;
@@ -173,8 +170,7 @@ void CFlashSimulator::NotifyHost(const char* szCommand, const char* szArgument) 
     if (m_pfnCallBackEx) m_pfnCallBackEx(szCommand, szArgument);
 }
 
-// ---- per-frame calls and messages
-// ---------------------------------------------------------------------------------
+// ---- per-frame calls and messages ----------------------------------------------------------------
 
 void CFlashSimulator::Process() {
     g_nDumpStep = DUMP_PROCESS_BEGIN;
@@ -209,32 +205,17 @@ void CFlashSimulator::ManagerCall(UINT uMsg, WPARAM wParam, LPARAM lParam) {
     if (m_pGuiMgr) m_pGuiMgr->ManagerCall(uMsg, wParam, lParam);
 }
 
-// ---- variables and scenes
-// -----------------------------------------------------------------------------------------
-
-void CFlashSimulator::SetVariable(const char* szName, const char* szValue) {
-    // NOTE: the variable protocol's dispatch comes with the scene driver (docs/STATUS.md); until then nothing
-    // acts.
-    (void)szName;
-    (void)szValue;
-}
-
-const char* CFlashSimulator::GetVariable(const char* szName) {
-    (void)szName;
-    return nullptr;
-}
+// ---- variables and scenes ------------------------------------------------------------------------
 
 void CFlashSimulator::SetSceneType(std::int32_t eScene) {
     m_eSceneType = static_cast<ESceneType>(eScene);
 }
 
 void CFlashSimulator::ShowMessage(std::uint32_t nStrId) {
-    // NOTE: shown in the message box once it exists (docs/STATUS.md).
-    (void)nStrId;
+    m_dlgConfirm.Show(CDlgFlashConfirm::TYPE_ERROR, GetStr(nStrId));
 }
 
-// ---- strings
-// --------------------------------------------------------------------------------------------------------
+// ---- strings -------------------------------------------------------------------------------------
 
 const char* CFlashSimulator::GetStr(std::uint32_t nId) {
     return m_strMgr.GetStr(nId);
@@ -255,8 +236,7 @@ void CFlashSimulator::RegisterRangedStrings() {
         [this](std::int64_t key, const char* text) { m_pGuiMgr->RegisterRangedString(key, text); });
 }
 
-// ---- creation parameters and stored values
-// --------------------------------------------------------------------------
+// ---- creation parameters and stored values -------------------------------------------------------
 
 void CFlashSimulator::SetCreateRoleParam(std::int32_t nNewServer, std::int32_t nSwitchA,
                                          std::int32_t nSwitchB, std::int32_t nArcher,
@@ -408,8 +388,7 @@ void CFlashSimulator::RegisterRole() {
     // NOTE: starts the introduction panel's registration once that panel exists (docs/STATUS.md).
 }
 
-// ---- music
-// ----------------------------------------------------------------------------------------------------------
+// ---- music ---------------------------------------------------------------------------------------
 
 void CFlashSimulator::SetMusic(bool bOn) {
     m_bMusicOn = bOn;
@@ -426,8 +405,7 @@ void CFlashSimulator::OpenWebAddress(const char* szAddress) {
     ShellExecuteA(nullptr, "open", szAddress, nullptr, nullptr, SHOW_NORMAL);
 }
 
-// ---- player list
-// ------------------------------------------------------------------------------------------------------
+// ---- player list ---------------------------------------------------------------------------------
 
 HANDLE CFlashSimulator::StartPlayerListThread() {
     void* param = reinterpret_cast<void*>(static_cast<std::intptr_t>(m_nPlayerListArg));

@@ -35,6 +35,7 @@
 #include "servers/DlgSelectEdition.h"
 #include "servers/DlgSelectGroup.h"
 #include "servers/DlgSelectServer.h"
+#include "simulator/ServerTypes.h"
 
 class CFlashSimulator final : public IFlashSimulator {
 public:
@@ -45,12 +46,18 @@ public:
     static constexpr std::uint32_t STR_PLAYER_LIST_NUMBER = 8000177;
     static constexpr const char* MUSIC_FILE = "Sound/backGround.mp3";
     static constexpr const char* MUSIC_VOLUME_SETTING = "gMusicVolume";
+    static constexpr std::uint32_t STR_AGREEMENT_NOT_TICKED = 8000102;
+
+    static constexpr int LOGIN_STEP_START = 0;
+    static constexpr int LOGIN_STEP_GROUP = 1;
+    static constexpr int LOGIN_STEP_SERVER = 2;
+    static constexpr int LOGIN_STEP_CLASSIC_LOGIN = 3;
+    static constexpr int LOGIN_STEP_MAIN_LOGIN = 4;
 
     CFlashSimulator();
     ~CFlashSimulator();
 
-    // ---- IFlashSimulator
-    // --------------------------------------------------------------------------------------
+    // ---- IFlashSimulator -------------------------------------------------------------------------
     void Create(std::uint64_t hHost, std::uint32_t nHostValue, std::int32_t nLanguage,
                 bool bRegister) override;
     void SetCallBack(FlashCallBack pfn) override;
@@ -102,10 +109,74 @@ public:
     void ManagerCall(UINT uMsg, WPARAM wParam, LPARAM lParam) override;
     void RegisterRole() override;
 
-    // ---- operations for the dialogs
-    // ---------------------------------------------------------------------------
+    // ---- operations for the dialogs --------------------------------------------------------------
     /// Hands a command to the primary, then the secondary callback; nothing when either text is null.
     void NotifyHost(const char* szCommand, const char* szArgument);
+    /// NotifyHost with a number as decimal text.
+    void NotifyHostInt(const char* szCommand, int nValue);
+
+    // Live server lists (indices out of range answer 0, null or false).
+    int GetGroupCount() const;
+    const char* GetGroupName(int nGroup) const;
+    /// Servers of the current group.
+    int GetServerCount() const;
+    int GetServerCountOf(int nGroup) const;
+    const char* GetServerName(int nGroup, int nServer) const;
+    /// Server of the current group.
+    const char* GetServerNameInGroup(int nServer) const;
+    const char* GetCurGroupName() const;
+    const char* GetCurServerName() const;
+    const SServerGroup* GetGroup(int nGroup) const;
+    const SServerItem* GetServer(int nGroup, int nServer) const;
+    /// Players x 100 / capacity of the current server; -1 in maintenance; 0 when none is selected.
+    float GetCurServerLoad() const;
+    /// The same for server n of the current group.
+    float GetServerLoad(int nServer) const;
+    /// Achievement window state of live server (g, s) at the local time: 0 before, 1 inside, 2 after or
+    /// invalid.
+    int GetAchState(int nGroup, int nServer) const;
+    /// Group g shows its achievement tip: its flag is set and one of its servers is inside its window.
+    bool IsGroupAchTip(int nGroup) const;
+    /// Server s of the current group shows its achievement tip.
+    bool IsServerAchTip(int nServer) const;
+    /// The current server exists, carries an achievement tip and switch A is on.
+    bool IsAchServer() const;
+    /// Empties every group's servers, then the group list.
+    void ClearGroups();
+
+    // Scene driver.
+    bool IsGroupFirstLanguage() const;
+    void OnSelectModel(int nModel);
+    void OnSelectGroup(int nGroup);
+    void OnSelectServer(int nServer);
+    void SetGroup(int nGroup);
+    void SetServer(int nServer, bool bOutside);
+    void QuickSelect(int nModel, int nGroup, int nServer);
+    void OnReturn();
+    int GetModel() const { return m_nModel; }
+    int GetCurGroup() const { return m_nGroup; }
+    int GetCurServer() const { return m_nServer; }
+    int GetLoginStep() const { return m_nLoginStep; }
+
+    // Quick entries.
+    /// 0 added, 1 already present, 2 list full.
+    int AddQuickEntry(const SQuickEntry& entry);
+    void ReplaceQuickEntry(const SQuickEntry& entry, int nReplaceIndex);
+    void DeleteQuickEntry(int nIndex);
+    void FillQuickEntry(SQuickEntry& entry) const;
+    int GetQuickEntryCount() const { return static_cast<int>(m_vecQuickEntry.size()); }
+    const SQuickEntry* GetQuickEntry(int nIndex) const;
+
+    // Remembered accounts, version, register-open state.
+    int GetRecAccountCount() const { return static_cast<int>(m_vecRecAccount.size()); }
+    const char* GetRecAccount(int nIndex) const;
+    const char* GetVersion() const { return m_strVersion.c_str(); }
+    bool IsRegisterOpen() const { return m_bRegisterOpen; }
+    void SetRegisterOpen(bool bOpen) { m_bRegisterOpen = bOpen; }
+    int GetMainPathWidth() const { return m_nMainPathWidth; }
+    int GetMainPathHeight() const { return m_nMainPathHeight; }
+    CDlgFlashConfirm& GetConfirmDialog() { return m_dlgConfirm; }
+    CDlgNewFlashLogin& GetNewFlashLoginDialog() { return m_dlgNewFlashLogin; }
     /// Switches the login music on or off (the track restarts when switched on).
     void SetMusic(bool bOn);
     bool IsMusicOn() const { return m_bMusicOn; }
@@ -126,6 +197,52 @@ public:
     CFlashStringMgr& GetStringMgr() { return m_strMgr; }
 
 private:
+    // Variable protocol.
+    using VariableHandler = void (CFlashSimulator::*)(const char* szValue);
+    void OnLoginVariable(const char* szName, const char* szValue);
+    void OnRoleCreateVariable(const char* szName, const char* szValue);
+    const char* GetLoginVariable(const char* szName);
+    static VariableHandler FindHandler(bool bLogin, const char* szName);
+    friend struct VariableTables;
+
+    void VarMainPath(const char* szValue);
+    void VarQuickLogin(const char* szValue);
+    void VarPlayLogin(const char* szValue);
+    void VarAreaAchTips(const char* szValue);
+    void VarCurVer(const char* szValue);
+    void VarServerArea(const char* szValue);
+    void VarServerName(const char* szValue);
+    void VarServerStatus(const char* szValue);
+    void VarQuickRecord(const char* szValue);
+    void VarSetRecAccount(const char* szValue);
+    void VarVersion(const char* szValue);
+    void VarMusic(const char* szValue);
+    void VarMusicSwitch(const char* szValue);
+    void VarSetKeyDown(const char* szValue);
+    void VarQrCodeLogin(const char* szValue);
+    void VarWeiXinLogin(const char* szValue);
+    void VarShowExit(const char* szValue);
+    void VarEnableToken(const char* szValue);
+    void VarGameBackLogin(const char* szValue);
+    void VarLoginError(const char* szValue);
+    void VarSetRegisterOpen(const char* szValue);
+    void VarResetMainPath(const char* szValue);
+    void VarLoginUser(const char* szValue);
+    void VarLogProtect(const char* szValue);
+    void VarSafeToken(const char* szValue);
+    void VarLoginHelmSafe(const char* szValue);
+    void VarNoEffect(const char* szValue);
+    void VarDialogPending(const char* szValue);
+    void VarPlayLoginWardSafeToken(const char* szValue);
+    void VarStartToFlash(const char* szValue);
+    void VarEndToFlash(const char* szValue);
+    void VarRoleSetMainPath(const char* szValue);
+    void VarDarkKnight(const char* szValue);
+    void VarShowCreateWnd(const char* szValue);
+    void OnAccountLoginKey();
+
+    void SendSpecialServerSignal(int nServer);
+
     void RegisterDialogs();
     void SwitchGuiHelper();
     static bool OnGuiSound(const char* szName, std::int32_t n1, std::int32_t n2, std::int32_t n3,
@@ -163,12 +280,14 @@ private:
     LuGui::ILuGuiMgr* m_pGuiMgr;
     FlashCallBack m_pfnCallBack;
     FlashCallBack m_pfnCallBackEx;
+    std::vector<SServerGroup> m_vecServerGroup;
     std::int32_t m_nFillGroup;
     std::int32_t m_nModel;
     std::int32_t m_nGroup;
     std::int32_t m_nServer;
     std::int32_t m_nLoginStep;
     std::vector<CZrString> m_vecRecAccount;
+    std::vector<SQuickEntry> m_vecQuickEntry;
     std::string m_strVersion;
     bool m_bNameChecked;
     bool m_bRoleReady;

@@ -1,0 +1,50 @@
+// Bounded readers for the host's variable texts: numbers as "%d" reads them, pieces between separators.
+#include "resources/TextScan.h"
+
+#include <limits>
+
+namespace textscan {
+
+std::optional<std::int32_t> ReadInt(std::string_view text, std::size_t& pos) {
+    std::size_t p = pos;
+    while (p < text.size() && (text[p] == ' ' || text[p] == '\t' || text[p] == '\n' || text[p] == '\r')) ++p;
+    bool negative = false;
+    if (p < text.size() && (text[p] == '-' || text[p] == '+')) negative = text[p++] == '-';
+    const std::size_t digits = p;
+    std::int64_t value = 0;
+    constexpr std::int64_t kLimit = static_cast<std::int64_t>(std::numeric_limits<std::int32_t>::max()) + 1;
+    for (; p < text.size() && text[p] >= '0' && text[p] <= '9'; ++p)
+        if (value < kLimit) value = value * 10 + (text[p] - '0');
+    if (p == digits) return std::nullopt;
+    pos = p;
+    if (negative) value = -value;
+    if (value > std::numeric_limits<std::int32_t>::max()) return std::numeric_limits<std::int32_t>::max();
+    if (value < std::numeric_limits<std::int32_t>::min()) return std::numeric_limits<std::int32_t>::min();
+    return static_cast<std::int32_t>(value);
+}
+
+std::vector<std::int32_t> ReadInts(std::string_view text, std::size_t nMax) {
+    std::vector<std::int32_t> values;
+    std::size_t pos = 0;
+    while (values.size() < nMax) {
+        const auto v = ReadInt(text, pos);
+        if (!v) break;
+        values.push_back(*v);
+    }
+    return values;
+}
+
+std::vector<std::int32_t> ReadIntsSeparated(std::string_view text, char cSep, std::size_t nMax) {
+    std::vector<std::int32_t> values;
+    std::size_t pos = 0;
+    while (values.size() < nMax) {
+        const auto v = ReadInt(text, pos);
+        if (!v) break;
+        values.push_back(*v);
+        if (values.size() == nMax || pos >= text.size() || text[pos] != cSep) break;
+        ++pos;
+    }
+    return values;
+}
+
+} // namespace textscan
