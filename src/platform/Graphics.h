@@ -17,8 +17,7 @@
 /// Release().
 class HOSTLIB_API CMyBitmap {
 public:
-    // ---- bitmap objects
-    // -------------------------------------------------------------------------------------------
+    // ---- bitmap objects --------------------------------------------------------------------------
 
     /// Draws the bitmap with its top-left corner at (x, y); a width or height of 0 means the natural size,
     /// anything else stretches to it. dwColor 0 draws the pixels unchanged; otherwise its alpha byte scales
@@ -33,8 +32,7 @@ public:
     /// Ends the bitmap object; the pointer is invalid afterwards.
     virtual void Release() = 0;
 
-    // ---- text
-    // -----------------------------------------------------------------------------------------------------
+    // ---- text ------------------------------------------------------------------------------------
 
     /// Draws UTF-16 text (zero-terminated). szFont may be null or any name (one face is used here); nFontSize
     /// is the pixel height, 0 for GetFontSize(). bAntialias false draws hard-edged glyphs. nStyle 0 plain, 1
@@ -60,8 +58,7 @@ public:
     /// 0xC2-0xF4).
     static bool IsDBCSLeadByte(unsigned char byte);
 
-    // ---- shapes
-    // ---------------------------------------------------------------------------------------------------
+    // ---- shapes ----------------------------------------------------------------------------------
 
     /// A one-pixel line from (x1, y1) to (x2, y2), both ends included. A colour whose alpha is 0 draws
     /// opaque.
@@ -71,8 +68,7 @@ public:
     /// A one-pixel outline just inside the rectangle, blending by the colour's alpha.
     static void ShowRect(const RECT& rc, DWORD dwColor);
 
-    // ---- screen, clip, camera, light
-    // ------------------------------------------------------------------------------
+    // ---- screen, clip, camera, light -------------------------------------------------------------
 
     /// The screen (client area) size the host has set.
     static int GetScreenWidth();
