@@ -40,6 +40,7 @@ public:
     int GetStrInt(std::uint32_t nId) const;
 
     bool IsLoading() const { return m_bLoading; }
+    bool HasStr(std::uint32_t nId) const { return !m_bLoading && m_mapStrings.count(nId) != 0; }
     std::size_t GetStringCount() const { return m_mapStrings.size(); }
     std::size_t GetRangedCount() const { return m_mapRanged.size(); }
     /// The ranged entry at a position in ascending key order; key 0 and an empty text past the end.

@@ -9,4 +9,7 @@ public:
 
     CDlgFlashBG();
     ~CDlgFlashBG() override;
+
+    /// Places the 3D camera at the screen's centre, then draws the backdrop of the layout record.
+    int Show() override;
 };

@@ -6,6 +6,7 @@
 #include <filesystem>
 
 #include "InterfaceCalls.h"
+#include "hostlibs/HostCanvas.h"
 #include "hostlibs/HostEnv.h"
 
 namespace {
@@ -48,6 +49,8 @@ ScenarioRunner::ScenarioRunner(const RunOptions& options, Transcript& transcript
     : m_options(options), m_transcript(transcript) {
     g_pTranscript = &m_transcript;
     host::SetClientDir(m_options.resDir);
+    // Frames are drawn to pixels so that any of them can be written with "shot".
+    host::UseCanvas(host::CanvasKind::Raster);
     InstallLogSink();
 }
 
@@ -99,6 +102,7 @@ void ScenarioRunner::Execute(const ScenarioStep& step) {
     if (name == "host") return StepHost(step);
     if (name == "log") return StepLog(step);
     if (name == "destroy") return StepDestroy(step);
+    if (name == "shot") return StepShot(step);
     Fail(step, "unknown step \"" + EscapeText(name) + "\"");
 }
 
@@ -179,6 +183,7 @@ void ScenarioRunner::StepFrame(const ScenarioStep& step) {
     for (long long i = 0; i < count; ++i) {
         host::AdvanceClock(static_cast<DWORD>(ms));
         m_pSim->Process();
+        host::BeginFrame();
         m_pSim->Show();
     }
 }
@@ -221,4 +226,13 @@ void ScenarioRunner::StepLog(const ScenarioStep& step) {
 void ScenarioRunner::StepDestroy(const ScenarioStep&) {
     m_library.Destroy();
     m_pSim = nullptr;
+}
+
+void ScenarioRunner::StepShot(const ScenarioStep& step) {
+    if (step.words.size() != 2) return Fail(step, "shot takes FILE");
+    namespace fs = std::filesystem;
+    const fs::path path = fs::path(m_options.outDir) / UnescapeValue(step.words[1]);
+    std::error_code ec;
+    if (path.has_parent_path()) fs::create_directories(path.parent_path(), ec);
+    if (!host::WriteFramePng(path.string())) Fail(step, "cannot write " + path.string());
 }

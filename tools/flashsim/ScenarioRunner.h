@@ -43,6 +43,7 @@ private:
     void StepHost(const ScenarioStep& step);
     void StepLog(const ScenarioStep& step);
     void StepDestroy(const ScenarioStep& step);
+    void StepShot(const ScenarioStep& step);
 
     void InstallLogSink();
 
