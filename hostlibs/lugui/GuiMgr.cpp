@@ -1,4 +1,5 @@
-// The dialog manager (minimal): creates registered dialogs, runs and draws the visible ones, records its calls.
+// The dialog manager (minimal): creates registered dialogs, runs and draws the visible ones, records its
+// calls.
 #include <string>
 #include <vector>
 
@@ -63,7 +64,9 @@ public:
 };
 } // namespace
 
-ILuGuiMgr* CreateNewGuiMgr() { return new CGuiMgr(); }
+ILuGuiMgr* CreateNewGuiMgr() {
+    return new CGuiMgr();
+}
 
 IGuiHelper* GetGuiHelper() {
     static CGuiHelper helper;

@@ -9,7 +9,8 @@ BOOL CLuBaseWindow::ShowWindow(int nCmdShow) {
     return was ? TRUE : FALSE;
 }
 
-CLuDialog::CLuDialog(UINT nIDTemplate, CLuBaseWindow*) : m_nIDTemplate(nIDTemplate) {}
+CLuDialog::CLuDialog(UINT nIDTemplate, CLuBaseWindow*) : m_nIDTemplate(nIDTemplate) {
+}
 
 BOOL CLuDialog::ShowWindow(int nCmdShow) {
     const BOOL was = CLuBaseWindow::ShowWindow(nCmdShow);
@@ -17,14 +18,28 @@ BOOL CLuDialog::ShowWindow(int nCmdShow) {
     return was;
 }
 
-BOOL CLuDialog::PreInitData() { return TRUE; }
-int CLuDialog::Show() { return 1; }
-LRESULT CLuDialog::WindowProc(UINT, WPARAM, LPARAM) { return 0; }
-BOOL CLuDialog::PreTranslateMessage(MSG*) { return FALSE; }
-void CLuDialog::Reset() {}
-BOOL CLuDialog::OnInitDialog() { return TRUE; }
-void CLuDialog::PreSetParam() {}
-void CLuDialog::DoDataExchange(CDataExchange*) {}
-void CLuDialog::MessageMap() {}
+BOOL CLuDialog::PreInitData() {
+    return TRUE;
+}
+int CLuDialog::Show() {
+    return 1;
+}
+LRESULT CLuDialog::WindowProc(UINT, WPARAM, LPARAM) {
+    return 0;
+}
+BOOL CLuDialog::PreTranslateMessage(MSG*) {
+    return FALSE;
+}
+void CLuDialog::Reset() {
+}
+BOOL CLuDialog::OnInitDialog() {
+    return TRUE;
+}
+void CLuDialog::PreSetParam() {
+}
+void CLuDialog::DoDataExchange(CDataExchange*) {
+}
+void CLuDialog::MessageMap() {
+}
 
 } // namespace LuGui

@@ -22,7 +22,8 @@ bool TestSoundFormat(const char* szName) {
     return EndsWith(name, ".wav") || EndsWith(name, ".ogg") || EndsWith(name, ".mp3");
 }
 
-ISound* DXPlaySound(const char* szName, std::int32_t, std::int32_t, std::int32_t, std::int32_t, const char*, bool) {
+ISound* DXPlaySound(const char* szName, std::int32_t, std::int32_t, std::int32_t, std::int32_t, const char*,
+                    bool) {
     host::Journal("sound.play", {{"name", szName ? szName : ""}});
     return host::GetDataInt("sound.fail", 0) ? nullptr : &g_playingSound;
 }
@@ -33,7 +34,10 @@ bool DXPlayMedia(const char* szName, int nRepeat, const char*, bool) {
 }
 
 void DXSetMusicVolume(int nVolume, const char* szSettingName) {
-    host::Journal("sound.volume", {{"setting", szSettingName ? szSettingName : ""}, {"volume", std::to_string(nVolume)}});
+    host::Journal("sound.volume",
+                  {{"setting", szSettingName ? szSettingName : ""}, {"volume", std::to_string(nVolume)}});
 }
 
-void ProcressSound() { host::Count("sound.process"); }
+void ProcressSound() {
+    host::Count("sound.process");
+}

@@ -1,16 +1,17 @@
-// The host API of the pre-game front end: the interface the game client drives and the two exported functions.
+// The host API of the pre-game front end: the interface the game client drives and the two exported
+// functions.
 //
-// Ownership: the simulator object belongs to the library. The host obtains it with FlashSimulatorQuery and ends it
-// with FlashSimulatorDestroy (never `delete`). Texts passed in are copied before the call returns; texts returned
-// stay valid as each operation states. No operation throws.
+// Ownership: the simulator object belongs to the library. The host obtains it with FlashSimulatorQuery and
+// ends it with FlashSimulatorDestroy (never `delete`). Texts passed in are copied before the call returns;
+// texts returned stay valid as each operation states. No operation throws.
 #pragma once
 
 #include <cstdint>
 
 #include "flashsim/Win32Types.h"
 
-/// A host function receiving one command: its name and its argument text (both 8-bit, zero-terminated, never null).
-/// Its result is ignored.
+/// A host function receiving one command: its name and its argument text (both 8-bit, zero-terminated, never
+/// null). Its result is ignored.
 typedef void (*FlashCallBack)(const char* szCommand, const char* szArgument);
 
 /// The two scenes of the front end.
@@ -22,8 +23,10 @@ enum ESceneType : std::int32_t {
 /// The front end as the host sees it. Operations are listed in slot order; all run on the host's thread.
 class IFlashSimulator {
 public:
-    /// 0. Initialises once: layout file, strings, server configuration, dialogs (when bRegister). Later calls do nothing.
-    virtual void Create(std::uint64_t hHost, std::uint32_t nHostValue, std::int32_t nLanguage, bool bRegister) = 0;
+    /// 0. Initialises once: layout file, strings, server configuration, dialogs (when bRegister). Later calls
+    /// do nothing.
+    virtual void Create(std::uint64_t hHost, std::uint32_t nHostValue, std::int32_t nLanguage,
+                        bool bRegister) = 0;
     /// 1. Installs the primary command callback; ignored before Create.
     virtual void SetCallBack(FlashCallBack pfn) = 0;
     /// 2. Installs the secondary command callback, at any time.
@@ -32,7 +35,8 @@ public:
     virtual void SetVariable(const char* szName, const char* szValue) = 0;
     /// 4. Shows the message box with the text of string id nStrId.
     virtual void ShowMessage(std::uint32_t nStrId) = 0;
-    /// 5. Reads a named variable; the text stays valid until the next GetVariable. Null when the name has no value.
+    /// 5. Reads a named variable; the text stays valid until the next GetVariable. Null when the name has no
+    /// value.
     virtual const char* GetVariable(const char* szName) = 0;
     /// 6. First per-frame call: widget processing, hover tips, sound.
     virtual void Process() = 0;
@@ -131,7 +135,8 @@ protected:
 #endif
 
 extern "C" {
-/// Returns the single simulator, creating it (zero-filled, then constructed) on the first call; null if that fails.
+/// Returns the single simulator, creating it (zero-filled, then constructed) on the first call; null if that
+/// fails.
 FLASHSIM_EXPORT IFlashSimulator* FlashSimulatorQuery();
 /// Destroys the simulator and forgets it; does nothing when there is none.
 FLASHSIM_EXPORT void FlashSimulatorDestroy();

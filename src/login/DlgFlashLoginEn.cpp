@@ -1,6 +1,7 @@
 // The international server and character picker.
 #include "login/DlgFlashLoginEn.h"
 
-CDlgFlashLoginEn::CDlgFlashLoginEn() : CSimDialog(IDD) {}
+CDlgFlashLoginEn::CDlgFlashLoginEn() : CSimDialog(IDD) {
+}
 
 CDlgFlashLoginEn::~CDlgFlashLoginEn() = default;

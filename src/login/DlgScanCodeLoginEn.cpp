@@ -1,6 +1,7 @@
 // QR-code login.
 #include "login/DlgScanCodeLoginEn.h"
 
-CDlgScanCodeLoginEn::CDlgScanCodeLoginEn() : CSimDialog(IDD) {}
+CDlgScanCodeLoginEn::CDlgScanCodeLoginEn() : CSimDialog(IDD) {
+}
 
 CDlgScanCodeLoginEn::~CDlgScanCodeLoginEn() = default;

@@ -1,4 +1,5 @@
-// The base library's operations used by the system: safe conversions, client-directory files, time, threads, text.
+// The base library's operations used by the system: safe conversions, client-directory files, time, threads,
+// text.
 #pragma once
 
 #include <cstddef>
@@ -15,19 +16,22 @@
 #define HOSTLIB_API __attribute__((visibility("default")))
 #endif
 
-// ---- safe conversions ----------------------------------------------------------------------------------------------
+// ---- safe conversions
+// ----------------------------------------------------------------------------------------------
 
-/// Leading blanks, an optional sign and decimal digits ("12abc" reads 12); null or empty text reads 0; values beyond
-/// 32 bits saturate.
+/// Leading blanks, an optional sign and decimal digits ("12abc" reads 12); null or empty text reads 0; values
+/// beyond 32 bits saturate.
 HOSTLIB_API int SafeAtoi(const char* sz);
-/// Writes nValue in base nRadix (2..36) into a buffer of nSize bytes, truncated but always terminated; returns szBuf.
+/// Writes nValue in base nRadix (2..36) into a buffer of nSize bytes, truncated but always terminated;
+/// returns szBuf.
 HOSTLIB_API char* SafeItoA(int nValue, char* szBuf, std::size_t nSize, int nRadix);
 /// strtoul with base nBase; null text reads 0, values beyond 32 bits saturate.
 HOSTLIB_API unsigned long SafeStrtoul(const char* sz, int nBase);
 /// printf into a buffer of nSize bytes, truncated but always terminated; returns the number of bytes written.
 HOSTLIB_API int SafeSprintf(char* szBuf, std::size_t nSize, const char* szFormat, ...)
     __attribute__((format(printf, 3, 4)));
-/// Splits text at every occurrence of szSep. Code page 65001 (UTF-8) never splits inside a multi-byte character.
+/// Splits text at every occurrence of szSep. Code page 65001 (UTF-8) never splits inside a multi-byte
+/// character.
 HOSTLIB_API void Split(std::vector<CZrString>& vecOut, const char* szText, const char* szSep, UINT nCodePage);
 /// Replaces, in place, every character outside printable ASCII by "?" (one per character, UTF-8 aware), for
 /// clients that show English characters only; the text stays terminated within nSize bytes.
@@ -35,7 +39,8 @@ HOSTLIB_API void ConverCodeToOnlyEnglish(char* szText, std::size_t nSize);
 /// UTF-8 (code page 65001) or Latin-1 (anything else) to UTF-16.
 HOSTLIB_API std::u16string StringToWString(const char* sz, UINT nCodePage);
 
-// ---- files below the client directory ------------------------------------------------------------------------------
+// ---- files below the client directory
+// ------------------------------------------------------------------------------
 
 /// An open file of the client directory (or, on the real client, of its packed archives).
 struct ZrFile;
@@ -47,7 +52,8 @@ HOSTLIB_API void Safefclose(ZrFile* pFile);
 /// The client directory (the game's current directory), as GetCurrentDirectoryA gives it.
 HOSTLIB_API std::string GetClientDirectory();
 
-// ---- time -----------------------------------------------------------------------------------------------------------
+// ---- time
+// -----------------------------------------------------------------------------------------------------------
 
 /// Milliseconds of the host's clock (timeGetTime).
 HOSTLIB_API DWORD TimeGet();
@@ -60,8 +66,8 @@ struct SLocalTime {
 };
 HOSTLIB_API SLocalTime GetLocalCalendarTime();
 
-/// The current local time as seconds of the local calendar since 1970-01-01 00:00 (no time zone); false when the
-/// clock cannot be read.
+/// The current local time as seconds of the local calendar since 1970-01-01 00:00 (no time zone); false when
+/// the clock cannot be read.
 HOSTLIB_API bool GetSafeLocalTime(std::int64_t& nSeconds);
 /// Minutes since 1970-01-01 00:00 of the local calendar, as the seconds GetSafeLocalTime counts.
 HOSTLIB_API std::int64_t GetTimeFromIntervalMin(std::int64_t nMinutes);
@@ -69,15 +75,16 @@ HOSTLIB_API std::int64_t GetTimeFromIntervalMin(std::int64_t nMinutes);
 /// Last step reached by the per-frame calls, read by the host's crash dump.
 extern HOSTLIB_API int g_nDumpStep;
 
-// ---- threads --------------------------------------------------------------------------------------------------------
+// ---- threads
+// --------------------------------------------------------------------------------------------------------
 
 using LPTHREAD_START_ROUTINE = DWORD (*)(void* pParam);
 
 class HOSTLIB_API CHandleHelper {
 public:
     /// Starts a thread running pfn(pParam); returns its handle (close with CloseHandle) or null.
-    static HANDLE CreateThreadProxy(void* pSecurity, std::size_t nStackSize, LPTHREAD_START_ROUTINE pfn, void* pParam,
-                                    DWORD dwFlags, DWORD* pThreadId);
+    static HANDLE CreateThreadProxy(void* pSecurity, std::size_t nStackSize, LPTHREAD_START_ROUTINE pfn,
+                                    void* pParam, DWORD dwFlags, DWORD* pThreadId);
 };
 inline constexpr DWORD INFINITE = 0xFFFFFFFFu;
 inline constexpr DWORD WAIT_OBJECT_0 = 0;
@@ -87,23 +94,27 @@ HOSTLIB_API DWORD WaitForSingleObject(HANDLE hHandle, DWORD dwMilliseconds);
 /// Releases a handle (joining a thread that has ended, detaching one that has not).
 HOSTLIB_API BOOL CloseHandle(HANDLE hHandle);
 
-// ---- INI files ------------------------------------------------------------------------------------------------------
+// ---- INI files
+// ------------------------------------------------------------------------------------------------------
 
-/// Reads a key of a section of an INI file below the client directory into szBuf (nSize bytes, truncated, always
-/// terminated); szDefault when the file, the section or the key is missing. Sections and keys match without regard
-/// to case; blanks around keys and values are trimmed. Returns the number of bytes copied.
+/// Reads a key of a section of an INI file below the client directory into szBuf (nSize bytes, truncated,
+/// always terminated); szDefault when the file, the section or the key is missing. Sections and keys match
+/// without regard to case; blanks around keys and values are trimmed. Returns the number of bytes copied.
 HOSTLIB_API DWORD MyGetPrivateProfileString(const char* szSection, const char* szKey, const char* szDefault,
                                             char* szBuf, DWORD nSize, const char* szFile);
 /// Reads a key as a decimal integer (SafeAtoi); nDefault when it is missing.
-HOSTLIB_API int MyGetPrivateProfileInt(const char* szSection, const char* szKey, int nDefault, const char* szFile);
+HOSTLIB_API int MyGetPrivateProfileInt(const char* szSection, const char* szKey, int nDefault,
+                                       const char* szFile);
 
-// ---- shell ----------------------------------------------------------------------------------------------------------
+// ---- shell
+// ----------------------------------------------------------------------------------------------------------
 
 /// Opens a document or web address with the system's shell; returns a value above 32 on success.
-HOSTLIB_API HINSTANCE ShellExecuteA(HWND hWnd, const char* szOperation, const char* szFile, const char* szParameters,
-                                    const char* szDirectory, int nShowCmd);
+HOSTLIB_API HINSTANCE ShellExecuteA(HWND hWnd, const char* szOperation, const char* szFile,
+                                    const char* szParameters, const char* szDirectory, int nShowCmd);
 
-// ---- sockets --------------------------------------------------------------------------------------------------------
+// ---- sockets
+// --------------------------------------------------------------------------------------------------------
 
 struct WSADATA {
     WORD wVersion;

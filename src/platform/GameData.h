@@ -1,4 +1,5 @@
-// The game data library's data objects used by the system: sounds by name, settings, language, English-only mode.
+// The game data library's data objects used by the system: sounds by name, settings, language, English-only
+// mode.
 #pragma once
 
 #include <cstdint>

@@ -11,9 +11,12 @@ namespace _log {
 /// One key-value pair of a structured line.
 using KV = std::pair<std::string_view, std::string_view>;
 
-HOSTLIB_API void Info(const char* szFile, int nLine, std::string_view msg, std::initializer_list<KV> kvs = {});
-HOSTLIB_API void Warn(const char* szFile, int nLine, std::string_view msg, std::initializer_list<KV> kvs = {});
-HOSTLIB_API void Error(const char* szFile, int nLine, std::string_view msg, std::initializer_list<KV> kvs = {});
+HOSTLIB_API void Info(const char* szFile, int nLine, std::string_view msg,
+                      std::initializer_list<KV> kvs = {});
+HOSTLIB_API void Warn(const char* szFile, int nLine, std::string_view msg,
+                      std::initializer_list<KV> kvs = {});
+HOSTLIB_API void Error(const char* szFile, int nLine, std::string_view msg,
+                       std::initializer_list<KV> kvs = {});
 /// The file name part of a source path (after the last slash or backslash).
 HOSTLIB_API const char* CutFileName(const char* szPath);
 } // namespace _log

@@ -1,4 +1,5 @@
-// The widget library's window and dialog classes (LuGui::CLuBaseWindow, LuGui::CLuDialog) that every dialog derives.
+// The widget library's window and dialog classes (LuGui::CLuBaseWindow, LuGui::CLuDialog) that every dialog
+// derives.
 #pragma once
 
 #include "BaseLib.h"

@@ -17,7 +17,8 @@ using PFN_SoundCallBack = bool (*)(const char* szName, std::int32_t n1, std::int
 class ILuGuiMgr {
 public:
     /// Loads the layout file (below the client directory) and remembers the host's handle and value.
-    virtual bool Init(HINSTANCE hInstance, std::uint64_t hHost, std::uint32_t nHostValue, const char* szLayoutFile) = 0;
+    virtual bool Init(HINSTANCE hInstance, std::uint64_t hHost, std::uint32_t nHostValue,
+                      const char* szLayoutFile) = 0;
     /// Destroys every window the manager created and the manager itself; the pointer is invalid afterwards.
     virtual void Release() = 0;
     virtual void SetSoundCallBack(PFN_SoundCallBack pfn) = 0;

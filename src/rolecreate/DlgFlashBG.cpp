@@ -9,7 +9,8 @@ constexpr double BACKDROP_CAMERA_DISTANCE = -1000.0;
 constexpr int BACKDROP_CAMERA_MODE = 3;
 } // namespace
 
-CDlgFlashBG::CDlgFlashBG() : CSimDialog(IDD) {}
+CDlgFlashBG::CDlgFlashBG() : CSimDialog(IDD) {
+}
 
 CDlgFlashBG::~CDlgFlashBG() = default;
 

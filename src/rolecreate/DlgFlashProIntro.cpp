@@ -1,6 +1,7 @@
 // The profession introduction panel of the English creation layout.
 #include "rolecreate/DlgFlashProIntro.h"
 
-CDlgFlashProIntro::CDlgFlashProIntro() : CSimDialog(IDD) {}
+CDlgFlashProIntro::CDlgFlashProIntro() : CSimDialog(IDD) {
+}
 
 CDlgFlashProIntro::~CDlgFlashProIntro() = default;

@@ -1,4 +1,5 @@
-// How a server's load is shown: small loads are raised by a fixed table, then levelled for pictures and words.
+// How a server's load is shown: small loads are raised by a fixed table, then levelled for pictures and
+// words.
 #include "servers/ServerLoad.h"
 
 namespace {

@@ -1,11 +1,12 @@
-// How a server's load is shown: small loads are raised by a fixed table, then levelled for pictures and words.
+// How a server's load is shown: small loads are raised by a fixed table, then levelled for pictures and
+// words.
 #pragma once
 
 #include <cstdint>
 
 struct SLoadDisplay {
-    float fShown = 0.0f;      ///< the displayed load in per cent, capped at 100; negative in maintenance
-    int nLevel = 0;           ///< 0 quiet, 1 busy, 2 very busy (maintenance shows level 0)
+    float fShown = 0.0f;       ///< the displayed load in per cent, capped at 100; negative in maintenance
+    int nLevel = 0;            ///< 0 quiet, 1 busy, 2 very busy (maintenance shows level 0)
     std::uint32_t nWordId = 0; ///< string id of the load word
 };
 

@@ -16,10 +16,12 @@
 
 namespace host {
 
-// ---- log sink -------------------------------------------------------------------------------------------------------
+// ---- log sink
+// -------------------------------------------------------------------------------------------------------
 
-/// One line of any log: structured (INFO, WARN, ERROR), plain (MSG, DEBUG, LOCALERR, FAULT), or a host-library
-/// record of an outward effect (HOST: a dialog registered, a sound played, an address opened ...).
+/// One line of any log: structured (INFO, WARN, ERROR), plain (MSG, DEBUG, LOCALERR, FAULT), or a
+/// host-library record of an outward effect (HOST: a dialog registered, a sound played, an address opened
+/// ...).
 struct LogRecord {
     std::string level;
     std::string message;
@@ -34,13 +36,15 @@ HOSTLIB_API LogSink SetLogSink(LogSink sink);
 /// Hands a line to the sink.
 HOSTLIB_API void Emit(LogRecord record);
 /// Records an outward effect of a host library: counted, and emitted as a HOST line.
-HOSTLIB_API void Journal(std::string_view what, std::initializer_list<std::pair<std::string_view, std::string>> keys = {});
+HOSTLIB_API void Journal(std::string_view what,
+                         std::initializer_list<std::pair<std::string_view, std::string>> keys = {});
 /// Counts a per-frame call without a log line (Journal would flood the log).
 HOSTLIB_API void Count(std::string_view what);
 /// How many times Journal or Count was called with this name since the last reset.
 HOSTLIB_API int JournalCount(std::string_view what);
 
-// ---- environment ----------------------------------------------------------------------------------------------------
+// ---- environment
+// ----------------------------------------------------------------------------------------------------
 
 /// The client directory that relative file names resolve against (default: the process's current directory).
 HOSTLIB_API void SetClientDir(const std::string& dir);

@@ -32,5 +32,6 @@ TEST(ServerLoad, JustBelowAThresholdKeepsTheLowerLevel) {
     EXPECT_EQ(d.nLevel, 1);
     EXPECT_EQ(static_cast<int>(d.fShown + 0.5f), 70);
     EXPECT_EQ(ComputeLoadDisplay(59.6f).nWordId, STR_LOAD_BUSY) << "74.6 is still busy";
-    EXPECT_EQ(static_cast<int>(ComputeLoadDisplay(59.6f).fShown + 0.5f), 75) << "though its per cent reads 75";
+    EXPECT_EQ(static_cast<int>(ComputeLoadDisplay(59.6f).fShown + 0.5f), 75)
+        << "though its per cent reads 75";
 }
