@@ -3,6 +3,8 @@
 
 #include <unistd.h>
 
+#include <algorithm>
+
 #include <climits>
 
 #include "hostlibs/HostEnv.h"
@@ -77,6 +79,8 @@ void ResetForTest() {
         Env().screenWidth = 1024;
         Env().screenHeight = 768;
         Env().data.clear();
+        Env().cursor = POINT{0, 0};
+        std::fill(std::begin(Env().keysDown), std::end(Env().keysDown), std::uint8_t{0});
     }
     Env().clockMs = detail::Environment::kStartClockMs;
     g_nDumpStep = 0;

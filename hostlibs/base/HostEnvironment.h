@@ -2,6 +2,7 @@
 #pragma once
 
 #include <atomic>
+#include <cstdint>
 #include <map>
 #include <mutex>
 #include <string>
@@ -18,6 +19,8 @@ struct Environment {
     int screenWidth = 1024;
     int screenHeight = 768;
     std::map<std::string, std::string> data;
+    POINT cursor{0, 0};
+    std::uint8_t keysDown[256] = {}; // one flag per virtual key
 
     static constexpr DWORD kStartClockMs = 100000;
     static constexpr SLocalTime kStartTime{2026, 1, 1, 12, 0, 0};

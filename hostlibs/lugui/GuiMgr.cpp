@@ -1,63 +1,256 @@
-// The dialog manager (minimal): creates registered dialogs, runs and draws the visible ones, records its
-// calls.
-#include <string>
-#include <vector>
+// The dialog manager: creates registered dialogs from the layout, routes the host's messages, activates
+// dialogs that open inactive, draws dialogs and tips.
+#include "GuiMgr.h"
 
+#include <algorithm>
+
+#include "Graphics.h"
+#include "Input.h"
+#include "Log.h"
+#include "LuCtrl.h"
 #include "LuDialog.h"
-#include "LuGui.h"
+#include "LuEdit.h"
 #include "hostlibs/HostEnv.h"
 
 namespace LuGui {
 namespace {
-class CGuiMgr final : public ILuGuiMgr {
-public:
-    bool Init(HINSTANCE, std::uint64_t, std::uint32_t, const char* szLayoutFile) override {
-        host::Journal("gui.init", {{"file", szLayoutFile ? szLayoutFile : ""}});
-        return true;
+
+constexpr const char* DEFAULT_LAYOUT_FILE = "FlashGui.ini";
+constexpr DWORD TIP_BACK_COLOUR = 0xC0000000;
+constexpr DWORD TOOL_TIP_COLOUR = 0xFFFFFFFF;
+constexpr int TIP_PADDING = 3;
+
+CGuiMgr* g_pCurrent = nullptr;
+
+} // namespace
+
+CGuiMgr::CGuiMgr() {
+    g_pCurrent = this;
+}
+
+CGuiMgr::~CGuiMgr() {
+    if (g_pCurrent == this) g_pCurrent = nullptr;
+}
+
+CGuiMgr* CGuiMgr::Current() {
+    return g_pCurrent;
+}
+
+bool CGuiMgr::Init(HINSTANCE, std::uint64_t hHost, std::uint32_t, const char* szLayoutFile) {
+    const std::string file = szLayoutFile && *szLayoutFile ? szLayoutFile : DEFAULT_LAYOUT_FILE;
+    host::Journal("gui.init", {{"file", file}});
+    m_hHostWnd = reinterpret_cast<HWND>(static_cast<std::uintptr_t>(hHost));
+    if (m_layout.Load(file.c_str())) return true;
+    if (file != DEFAULT_LAYOUT_FILE) {
+        LogMsg("layout %s missing, reading %s", file.c_str(), DEFAULT_LAYOUT_FILE);
+        if (m_layout.Load(DEFAULT_LAYOUT_FILE)) return true;
     }
-    void Release() override {
-        host::Journal("gui.release");
-        delete this;
-    }
-    void SetSoundCallBack(PFN_SoundCallBack pfn) override {
-        m_pfnSound = pfn;
-        host::Journal("gui.soundcb");
-    }
-    bool RegisterDialog(CLuDialog* pDialog, int, int) override {
-        if (!pDialog) return false;
-        host::Journal("gui.register", {{"id", std::to_string(pDialog->GetTemplateId())}});
-        pDialog->PreSetParam();
-        pDialog->PreInitData();
-        pDialog->DoDataExchange(nullptr);
-        pDialog->MessageMap();
+    LogMsg("layout %s missing", DEFAULT_LAYOUT_FILE);
+    return false;
+}
+
+void CGuiMgr::Release() {
+    host::Journal("gui.release");
+    delete this;
+}
+
+void CGuiMgr::SetSoundCallBack(PFN_SoundCallBack pfn) {
+    m_pfnSound = pfn;
+    host::Journal("gui.soundcb");
+}
+
+const CLuLayoutRecord* CGuiMgr::FindLayout(const char* szSection) const {
+    return szSection ? m_layout.Find(szSection) : nullptr;
+}
+
+// ---- creation ------------------------------------------------------------------------------------
+
+bool CGuiMgr::RegisterDialog(CLuDialog* pDialog, int, int) {
+    if (!pDialog) return false;
+    host::Journal("gui.register", {{"id", std::to_string(pDialog->GetTemplateId())}});
+    pDialog->ClearForCreation();
+    pDialog->Attach(this, nullptr, pDialog->GetTemplateId(),
+                    m_layout.Find(CLayoutFile::DialogSection(pDialog->GetTemplateId())));
+    pDialog->CLuBaseWindow::ShowWindow(SW_HIDE);
+    if (std::find(m_vecDialogs.begin(), m_vecDialogs.end(), pDialog) == m_vecDialogs.end())
         m_vecDialogs.push_back(pDialog);
+    pDialog->PreSetParam();
+    pDialog->PreInitData();
+    CDataExchange dx(pDialog);
+    pDialog->DoDataExchange(&dx);
+    pDialog->MessageMap();
+    pDialog->OnInitDialog();
+    return true;
+}
+
+// ---- per frame -----------------------------------------------------------------------------------
+
+void CGuiMgr::Process() {
+    const DWORD dwNow = TimeGet();
+    // Activation may show or hide dialogs, which edits the list: take the due ones out first.
+    std::vector<CLuDialog*> due;
+    std::erase_if(m_vecPending, [&](const SPendingActivation& p) {
+        if (dwNow - p.dwShownAt < p.pDialog->GetOpenInactiveMs()) return false;
+        due.push_back(p.pDialog);
         return true;
-    }
-    void Process() override {}
-    void Show() override {
-        for (CLuDialog* dlg : m_vecDialogs)
-            if (dlg->IsWindowVisible()) dlg->Show();
-    }
-    void Reset(int) override {
-        host::Journal("gui.reset");
-        for (CLuDialog* dlg : m_vecDialogs) dlg->Reset();
-    }
-    LRESULT MsgProc(HWND, UINT, WPARAM, LPARAM) override { return 0; }
-    void RegisterRangedString(std::int64_t nKey, const char* szText) override {
-        host::Journal("gui.ranged", {{"key", std::to_string(nKey)}, {"text", szText ? szText : ""}});
-    }
-    void ManagerCall(UINT uMsg, WPARAM wParam, LPARAM lParam) override {
-        host::Journal("gui.call", {{"msg", std::to_string(uMsg)},
-                                   {"wparam", std::to_string(wParam)},
-                                   {"lparam", std::to_string(lParam)}});
-    }
+    });
+    for (CLuDialog* pDialog : due)
+        if (pDialog->IsWindowVisible()) pDialog->Activate();
+    ShowHoverTip();
+}
 
-private:
-    ~CGuiMgr() = default;
-    PFN_SoundCallBack m_pfnSound = nullptr;
-    std::vector<CLuDialog*> m_vecDialogs;
-};
+std::vector<CLuDialog*> CGuiMgr::DrawingOrder() const {
+    std::vector<CLuDialog*> order;
+    order.reserve(m_vecDialogs.size());
+    for (CLuDialog* pDialog : m_vecDialogs)
+        if (!pDialog->IsTopMost()) order.push_back(pDialog);
+    for (CLuDialog* pDialog : m_vecDialogs)
+        if (pDialog->IsTopMost()) order.push_back(pDialog);
+    return order;
+}
 
+void CGuiMgr::Show() {
+    for (CLuDialog* pDialog : DrawingOrder())
+        if (pDialog->IsWindowVisible()) pDialog->Show();
+    DrawTips();
+}
+
+void CGuiMgr::ShowTip(const char* szText, int x, int y, DWORD dwColor) {
+    if (!szText || !*szText) return;
+    m_vecTips.push_back(STip{szText, POINT{x, y}, dwColor});
+}
+
+void CGuiMgr::ShowHoverTip() {
+    POINT pt{};
+    GetCursorPos(&pt);
+    CLuDialog* pDialog = DialogAt(pt);
+    CLuCtrl* pCtrl = pDialog ? pDialog->ControlAt(pt) : nullptr;
+    if (!pCtrl || !*pCtrl->GetTipText()) return;
+    const RECT rc = pCtrl->GetWindowRect();
+    ShowTip(pCtrl->GetTipText(), rc.left, rc.bottom + TIP_PADDING, TOOL_TIP_COLOUR);
+}
+
+void CGuiMgr::DrawTips() {
+    const int nFont = CMyBitmap::GetFontSize();
+    for (const STip& tip : m_vecTips) {
+        const int nWidth = CMyBitmap::GetStringWidth(tip.strText.c_str(), nFont);
+        const RECT rcBack{tip.pt.x - TIP_PADDING, tip.pt.y - TIP_PADDING, tip.pt.x + nWidth + TIP_PADDING,
+                          tip.pt.y + nFont + TIP_PADDING};
+        CMyBitmap::ShowBlock(rcBack, TIP_BACK_COLOUR);
+        CMyBitmap::ShowString(tip.pt.x, tip.pt.y, tip.dwColor, tip.strText.c_str(),
+                              CMyBitmap::GetDefaultFontName(), nFont);
+    }
+    m_vecTips.clear();
+}
+
+void CGuiMgr::Reset(int) {
+    host::Journal("gui.reset");
+    m_pFocusEdit = nullptr;
+    m_pCaptureDialog = nullptr;
+    m_pAttentionDialog = nullptr;
+    m_vecTips.clear();
+    for (CLuDialog* pDialog : std::vector<CLuDialog*>(m_vecDialogs)) pDialog->Reset();
+}
+
+// ---- dialogs -------------------------------------------------------------------------------------
+
+void CGuiMgr::OnDialogShown(CLuDialog* pDialog, bool bShown) {
+    std::erase_if(m_vecPending, [&](const SPendingActivation& p) { return p.pDialog == pDialog; });
+    if (bShown) {
+        if (pDialog->GetOpenInactiveMs() > 0) m_vecPending.push_back(SPendingActivation{pDialog, TimeGet()});
+        return;
+    }
+    if (m_pFocusEdit && m_pFocusEdit->GetParentDialog() == pDialog) m_pFocusEdit = nullptr;
+    if (m_pCaptureDialog == pDialog) m_pCaptureDialog = nullptr;
+    if (m_pAttentionDialog == pDialog) m_pAttentionDialog = nullptr;
+}
+
+void CGuiMgr::BringToTop(CLuDialog* pDialog) {
+    const auto it = std::find(m_vecDialogs.begin(), m_vecDialogs.end(), pDialog);
+    if (it == m_vecDialogs.end()) return;
+    m_vecDialogs.erase(it);
+    m_vecDialogs.push_back(pDialog);
+}
+
+CLuDialog* CGuiMgr::FindDialog(UINT nTemplateId) const {
+    for (CLuDialog* pDialog : m_vecDialogs)
+        if (pDialog->GetTemplateId() == nTemplateId) return pDialog;
+    return nullptr;
+}
+
+CLuDialog* CGuiMgr::DialogAt(POINT pt) const {
+    const std::vector<CLuDialog*> order = DrawingOrder();
+    for (auto it = order.rbegin(); it != order.rend(); ++it) {
+        CLuDialog* pDialog = *it;
+        if (!pDialog->IsWindowVisible() || !pDialog->IsWindowEnabled() || pDialog->IsHideState()) continue;
+        if (pDialog->HitTest(pt) || pDialog->ControlAt(pt)) return pDialog;
+    }
+    return nullptr;
+}
+
+// ---- messages ------------------------------------------------------------------------------------
+
+bool CGuiMgr::IsMouseMessage(UINT uMsg) {
+    return uMsg >= WM_MOUSEMOVE && uMsg <= WM_MOUSEWHEEL;
+}
+
+bool CGuiMgr::IsKeyMessage(UINT uMsg) {
+    return uMsg == WM_KEYDOWN || uMsg == WM_KEYUP || uMsg == WM_CHAR;
+}
+
+CLuDialog* CGuiMgr::KeyboardTarget() {
+    if (m_pFocusEdit && (!m_pFocusEdit->IsWindowVisible() || !m_pFocusEdit->IsWindowEnabled()))
+        m_pFocusEdit = nullptr;
+    if (m_pFocusEdit && m_pFocusEdit->GetParentDialog()) return m_pFocusEdit->GetParentDialog();
+    if (m_pAttentionDialog && m_pAttentionDialog->IsWindowVisible()) return m_pAttentionDialog;
+    const std::vector<CLuDialog*> order = DrawingOrder();
+    for (auto it = order.rbegin(); it != order.rend(); ++it)
+        if ((*it)->IsWindowVisible() && (*it)->IsWindowEnabled()) return *it;
+    return nullptr;
+}
+
+void CGuiMgr::NotifyLostFocus(CLuDialog* pPressed) {
+    CLuDialog* pPrevious = m_pAttentionDialog;
+    m_pAttentionDialog = pPressed;
+    if (pPrevious && pPrevious != pPressed && pPrevious->IsWindowVisible())
+        pPrevious->WindowProc(LU_MSG_LOSE_FOCUS, 0, 0);
+}
+
+LRESULT CGuiMgr::MsgProc(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM lParam) {
+    CLuDialog* pTarget = nullptr;
+    if (IsMouseMessage(uMsg)) {
+        const POINT pt{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
+        const bool bCaptured = m_pCaptureDialog && (uMsg == WM_MOUSEMOVE || uMsg == WM_LBUTTONUP);
+        pTarget = bCaptured ? m_pCaptureDialog : DialogAt(pt);
+        if (uMsg == WM_LBUTTONDOWN) {
+            NotifyLostFocus(pTarget);
+            m_pCaptureDialog = pTarget;
+        }
+        if (uMsg == WM_LBUTTONUP) m_pCaptureDialog = nullptr;
+    } else if (IsKeyMessage(uMsg)) {
+        pTarget = KeyboardTarget();
+    }
+    if (!pTarget) return 0;
+    MSG msg{hWnd, uMsg, wParam, lParam, TimeGet(), POINT{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}};
+    if (!IsMouseMessage(uMsg)) GetCursorPos(&msg.pt);
+    if (pTarget->PreTranslateMessage(&msg)) return 1;
+    pTarget->WindowProc(uMsg, wParam, lParam);
+    return 1;
+}
+
+void CGuiMgr::RegisterRangedString(std::int64_t nKey, const char* szText) {
+    host::Journal("gui.ranged", {{"key", std::to_string(nKey)}, {"text", szText ? szText : ""}});
+}
+
+void CGuiMgr::ManagerCall(UINT uMsg, WPARAM wParam, LPARAM lParam) {
+    host::Journal("gui.call", {{"msg", std::to_string(uMsg)},
+                               {"wparam", std::to_string(wParam)},
+                               {"lparam", std::to_string(lParam)}});
+}
+
+// ---- creation of the manager ---------------------------------------------------------------------
+
+namespace {
 class CGuiHelper final : public IGuiHelper {
 public:
     void Start() override { host::Journal("gui.helper"); }

@@ -62,6 +62,11 @@ HOSTLIB_API std::string GetData(const std::string& key, const std::string& fallb
 HOSTLIB_API bool HasData(const std::string& key);
 HOSTLIB_API int GetDataInt(const std::string& key, int fallback = 0);
 
+/// The window system's input state that GetCursorPos and GetKeyState report: a host moves the cursor and
+/// presses keys here before it forwards the matching window message (as the operating system would).
+HOSTLIB_API void SetCursor(int x, int y);
+HOSTLIB_API void SetKeyDown(int nVirtKey, bool bDown);
+
 /// Test-only: clock, calendar, screen, host data, journal counts and the sink back to their start values.
 HOSTLIB_API void ResetForTest();
 

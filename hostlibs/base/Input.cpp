@@ -1,0 +1,32 @@
+// Cursor position and key state: set by the host as its window receives input, read by the widget toolkit.
+#include "Input.h"
+#include "HostEnvironment.h"
+#include "hostlibs/HostEnv.h"
+
+namespace host {
+
+void SetCursor(int x, int y) {
+    std::lock_guard lock(detail::Env().mutex);
+    detail::Env().cursor = POINT{x, y};
+}
+
+void SetKeyDown(int nVirtKey, bool bDown) {
+    if (nVirtKey < 0 || nVirtKey > 255) return;
+    std::lock_guard lock(detail::Env().mutex);
+    detail::Env().keysDown[nVirtKey] = bDown ? 1 : 0;
+}
+
+} // namespace host
+
+BOOL GetCursorPos(POINT* pPoint) {
+    if (!pPoint) return FALSE;
+    std::lock_guard lock(host::detail::Env().mutex);
+    *pPoint = host::detail::Env().cursor;
+    return TRUE;
+}
+
+short GetKeyState(int nVirtKey) {
+    if (nVirtKey < 0 || nVirtKey > 255) return 0;
+    std::lock_guard lock(host::detail::Env().mutex);
+    return host::detail::Env().keysDown[nVirtKey] ? static_cast<short>(0x8000) : short{0};
+}

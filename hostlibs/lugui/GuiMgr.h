@@ -1,0 +1,80 @@
+// The dialog manager of the widget toolkit: layout, dialog creation, z-order, message routing, focus,
+// activation and tips.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "LayoutFile.h"
+#include "LuGui.h"
+
+namespace LuGui {
+
+class CGuiMgr final : public ILuGuiMgr {
+public:
+    CGuiMgr();
+
+    bool Init(HINSTANCE hInstance, std::uint64_t hHost, std::uint32_t nHostValue,
+              const char* szLayoutFile) override;
+    void Release() override;
+    void SetSoundCallBack(PFN_SoundCallBack pfn) override;
+    bool RegisterDialog(CLuDialog* pDialog, int nReserved1, int nReserved2) override;
+    void Process() override;
+    void Show() override;
+    void Reset(int nReserved) override;
+    LRESULT MsgProc(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM lParam) override;
+    void RegisterRangedString(std::int64_t nKey, const char* szText) override;
+    void ManagerCall(UINT uMsg, WPARAM wParam, LPARAM lParam) override;
+
+    void ShowTip(const char* szText, int x, int y, DWORD dwColor) override;
+    CLuEdit* GetFocusEdit() const override { return m_pFocusEdit; }
+    void SetFocusEdit(CLuEdit* pEdit) override { m_pFocusEdit = pEdit; }
+    const CLuLayoutRecord* FindLayout(const char* szSection) const override;
+    HWND GetHostWindow() const override { return m_hHostWnd; }
+    void OnDialogShown(CLuDialog* pDialog, bool bShown) override;
+    void BringToTop(CLuDialog* pDialog) override;
+
+    /// Dialogs in drawing order (bottom-most first; top-most dialogs after the others).
+    std::vector<CLuDialog*> DrawingOrder() const;
+    /// The registered dialog with that template id, null when none.
+    CLuDialog* FindDialog(UINT nTemplateId) const;
+    /// The process's live manager (the last one created), for the host's inspection.
+    static CGuiMgr* Current();
+
+private:
+    ~CGuiMgr();
+
+    struct STip {
+        std::string strText;
+        POINT pt;
+        DWORD dwColor;
+    };
+    struct SPendingActivation {
+        CLuDialog* pDialog;
+        DWORD dwShownAt;
+    };
+
+    /// The top-most visible, enabled dialog under a screen point (a dialog counts where it or one of its
+    /// controls lies).
+    CLuDialog* DialogAt(POINT pt) const;
+    /// Where keyboard messages go: the focused edit's dialog, else the dialog last pressed, else the top-most
+    /// visible one.
+    CLuDialog* KeyboardTarget();
+    static bool IsMouseMessage(UINT uMsg);
+    static bool IsKeyMessage(UINT uMsg);
+    void NotifyLostFocus(CLuDialog* pPressed);
+    void ShowHoverTip();
+    void DrawTips();
+
+    CLayoutFile m_layout;
+    HWND m_hHostWnd = nullptr;
+    PFN_SoundCallBack m_pfnSound = nullptr;
+    std::vector<CLuDialog*> m_vecDialogs; ///< z-order, bottom first
+    std::vector<SPendingActivation> m_vecPending;
+    std::vector<STip> m_vecTips;
+    CLuEdit* m_pFocusEdit = nullptr;
+    CLuDialog* m_pCaptureDialog = nullptr;
+    CLuDialog* m_pAttentionDialog = nullptr; ///< the dialog the last left press landed on
+};
+
+} // namespace LuGui

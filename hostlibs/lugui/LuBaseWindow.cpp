@@ -1,0 +1,224 @@
+// Windows of the widget toolkit: geometry, state, background and the layout keys every window understands.
+#include "LuBaseWindow.h"
+
+#include <strings.h>
+
+#include <algorithm>
+
+#include "GameGraphic.h"
+#include "Gui3DEffect.h"
+#include "Input.h"
+#include "LayoutFile.h"
+#include "LuDialog.h"
+#include "LuGui.h"
+#include "LuLayoutRecord.h"
+
+namespace LuGui {
+
+CLuBaseWindow::CLuBaseWindow() : m_strBgAniFile(CONTROL_ANI_FILE) {
+}
+
+CLuBaseWindow::~CLuBaseWindow() {
+    SetBgEffect(nullptr);
+    SetFgEffect(nullptr);
+}
+
+BOOL CLuBaseWindow::PreInitData() {
+    return TRUE;
+}
+
+void CLuBaseWindow::InitData() {
+}
+
+int CLuBaseWindow::Show() {
+    if (!m_bVisible || m_bHideState) return 0;
+    ShowBackGround();
+    return 1;
+}
+
+LRESULT CLuBaseWindow::WindowProc(UINT, WPARAM, LPARAM) {
+    return 0;
+}
+
+BOOL CLuBaseWindow::ShowWindow(int nCmdShow) {
+    const bool bWasVisible = m_bVisible;
+    m_bVisible = nCmdShow != SW_HIDE;
+    return bWasVisible ? TRUE : FALSE;
+}
+
+HWND CLuBaseWindow::GetSafeHwnd() const {
+    return m_pGuiMgr ? m_pGuiMgr->GetHostWindow() : nullptr;
+}
+
+// ---- geometry ------------------------------------------------------------------------------------
+
+POINT CLuBaseWindow::GetParentOrigin() const {
+    if (!m_pParent) return POINT{0, 0};
+    const RECT rcParent = m_pParent->GetWindowRect();
+    return POINT{rcParent.left, rcParent.top};
+}
+
+void CLuBaseWindow::GetWindowRect(RECT* pRect) const {
+    if (pRect) *pRect = GetWindowRect();
+}
+
+RECT CLuBaseWindow::GetWindowRect() const {
+    const POINT origin = GetParentOrigin();
+    return RECT{m_rc.left + origin.x, m_rc.top + origin.y, m_rc.right + origin.x, m_rc.bottom + origin.y};
+}
+
+void CLuBaseWindow::GetClientRect(RECT* pRect) const {
+    if (pRect) *pRect = RECT{0, 0, GetWidth(), GetHeight()};
+}
+
+void CLuBaseWindow::ScreenToClient(POINT* pPoint) const {
+    if (!pPoint) return;
+    const RECT rc = GetWindowRect();
+    pPoint->x -= rc.left;
+    pPoint->y -= rc.top;
+}
+
+void CLuBaseWindow::ScreenToClient(RECT* pRect) const {
+    if (!pRect) return;
+    const RECT rc = GetWindowRect();
+    *pRect = RECT{pRect->left - rc.left, pRect->top - rc.top, pRect->right - rc.left, pRect->bottom - rc.top};
+}
+
+void CLuBaseWindow::ClientToScreen(POINT* pPoint) const {
+    if (!pPoint) return;
+    const RECT rc = GetWindowRect();
+    pPoint->x += rc.left;
+    pPoint->y += rc.top;
+}
+
+void CLuBaseWindow::MoveWindow(int x, int y, int nWidth, int nHeight, BOOL) {
+    m_rc = RECT{x, y, x + std::max(0, nWidth), y + std::max(0, nHeight)};
+}
+
+BOOL CLuBaseWindow::SetWindowPos(const CLuBaseWindow* pInsertAfter, int x, int y, int cx, int cy,
+                                 UINT nFlags) {
+    const int nX = (nFlags & SWP_NOMOVE) ? m_rc.left : x;
+    const int nY = (nFlags & SWP_NOMOVE) ? m_rc.top : y;
+    const int nW = (nFlags & SWP_NOSIZE) ? GetWidth() : cx;
+    const int nH = (nFlags & SWP_NOSIZE) ? GetHeight() : cy;
+    MoveWindow(nX, nY, nW, nH, FALSE);
+    if (!(nFlags & SWP_NOZORDER) && !pInsertAfter && !m_pParent && m_pGuiMgr)
+        m_pGuiMgr->BringToTop(static_cast<CLuDialog*>(this));
+    if (nFlags & SWP_SHOWWINDOW) ShowWindow(SW_SHOW);
+    if (nFlags & SWP_HIDEWINDOW) ShowWindow(SW_HIDE);
+    return TRUE;
+}
+
+bool CLuBaseWindow::HitTest(POINT pt) const {
+    const RECT rc = GetWindowRect();
+    return pt.x >= rc.left && pt.x < rc.right && pt.y >= rc.top && pt.y < rc.bottom;
+}
+
+// ---- state ---------------------------------------------------------------------------------------
+
+BOOL CLuBaseWindow::EnableWindow(BOOL bEnable) {
+    const bool bWasDisabled = !m_bEnabled;
+    m_bEnabled = bEnable != FALSE;
+    return bWasDisabled ? TRUE : FALSE;
+}
+
+void CLuBaseWindow::ProcessMouseMove() {
+    POINT pt{};
+    GetCursorPos(&pt);
+    m_bHover = m_bEnabled && HitTest(pt);
+}
+
+// ---- background and effects ----------------------------------------------------------------------
+
+void CLuBaseWindow::SetBackGroundAni(const char* szTitle) {
+    m_strBgAni = szTitle ? szTitle : "";
+    if (!m_strBgAni.empty()) m_bShowBackGround = true;
+}
+
+void CLuBaseWindow::SetBackGroundAniFile(const char* szFile) {
+    m_strBgAniFile = szFile && *szFile ? szFile : CONTROL_ANI_FILE;
+}
+
+void CLuBaseWindow::SetBgEffect(CGui3DEffect* pEffect) {
+    if (m_pBgEffect && m_pBgEffect != pEffect) m_pBgEffect->Release();
+    m_pBgEffect = pEffect;
+}
+
+void CLuBaseWindow::SetFgEffect(CGui3DEffect* pEffect) {
+    if (m_pFgEffect && m_pFgEffect != pEffect) m_pFgEffect->Release();
+    m_pFgEffect = pEffect;
+}
+
+void CLuBaseWindow::ShowBackGround() {
+    if (!m_bShowBackGround || m_strBgAni.empty()) return;
+    RECT rc = GetWindowRect();
+    rc = RECT{rc.left + m_ptBgOffset.x, rc.top + m_ptBgOffset.y, rc.right + m_ptBgOffset.x,
+              rc.bottom + m_ptBgOffset.y};
+    CGameGraphic::ShowAniRect(m_strBgAniFile.c_str(), m_strBgAni.c_str(), m_nCurFrame, rc);
+}
+
+// ---- text ----------------------------------------------------------------------------------------
+
+void CLuBaseWindow::SetWindowTextA(const char* szText) {
+    m_strText = szText ? szText : "";
+}
+
+// ---- layout --------------------------------------------------------------------------------------
+
+void CLuBaseWindow::Attach(ILuGuiMgr* pMgr, CLuDialog* pParent, UINT nId, const CLuLayoutRecord* pLayout) {
+    m_pGuiMgr = pMgr;
+    m_pParent = pParent;
+    m_nId = nId;
+    m_pLayout = pLayout;
+    ApplyLayout();
+}
+
+namespace {
+
+int ParseAlign(const char* sz) {
+    if (::strcasecmp(sz, "center") == 0 || ::strcasecmp(sz, "centre") == 0) return LU_ALIGN_CENTER;
+    if (::strcasecmp(sz, "right") == 0) return LU_ALIGN_RIGHT;
+    const int n = SafeAtoi(sz);
+    return n == LU_ALIGN_CENTER || n == LU_ALIGN_RIGHT ? n : LU_ALIGN_LEFT;
+}
+
+bool ParseFlag(const char* sz) {
+    return SafeAtoi(sz) != 0 || ::strcasecmp(sz, "true") == 0 || ::strcasecmp(sz, "yes") == 0;
+}
+
+} // namespace
+
+void CLuBaseWindow::ApplyLayout() {
+    if (!m_pLayout) return;
+    const CLuLayoutRecord& rec = *m_pLayout;
+    if (const char* sz = rec.GetValue("Rect")) {
+        int v[4] = {0, 0, 0, 0};
+        CLayoutFile::ReadNumbers(sz, v);
+        MoveWindow(v[0], v[1], v[2], v[3], FALSE);
+    }
+    if (const char* sz = rec.GetValue("Text")) m_strText = sz;
+    if (const char* sz = rec.GetValue("Font")) {
+        int v[2] = {0, 0};
+        const int n = CLayoutFile::ReadNumbers(sz, v);
+        // NOTE: one number is the height; the width of a single-byte character is then half of it.
+        m_sizeFont = n >= 2 ? SIZE{v[0], v[1]} : SIZE{v[0] / 2, v[0]};
+    }
+    if (const char* sz = rec.GetValue("FontColor")) m_dwFontColor = static_cast<DWORD>(SafeStrtoul(sz, 16));
+    if (const char* sz = rec.GetValue("Align")) m_nAlign = ParseAlign(sz);
+    if (const char* sz = rec.GetValue("MultiLine")) m_nMultiLine = ParseFlag(sz) ? 1 : 0;
+    if (const char* sz = rec.GetValue("Wrap")) m_bWrap = ParseFlag(sz);
+    if (const char* sz = rec.GetValue("BackgroundFile")) SetBackGroundAniFile(sz);
+    if (const char* sz = rec.GetValue("Background")) SetBackGroundAni(sz);
+    if (const char* sz = rec.GetValue("BackgroundOffset")) {
+        int v[2] = {0, 0};
+        CLayoutFile::ReadNumbers(sz, v);
+        m_ptBgOffset = POINT{v[0], v[1]};
+    }
+    if (const char* sz = rec.GetValue("Frame")) m_nCurFrame = SafeAtoi(sz);
+    if (const char* sz = rec.GetValue("Visible")) m_bVisible = ParseFlag(sz);
+    if (const char* sz = rec.GetValue("Enabled")) m_bEnabled = ParseFlag(sz);
+    if (const char* sz = rec.GetValue("HideState")) m_bHideState = ParseFlag(sz);
+    if (const char* sz = rec.GetValue("Tip")) m_strTip = sz;
+}
+
+} // namespace LuGui

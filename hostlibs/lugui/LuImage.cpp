@@ -1,0 +1,15 @@
+// Images: the background frame, then the image's own picture, then any text.
+#include "LuImage.h"
+
+namespace LuGui {
+
+int CLuImage::Show() {
+    if (!m_bVisible || m_bHideState) return 0;
+    ProcessMouseMove();
+    ShowBackGround();
+    DrawImage();
+    ShowWindowText();
+    return 1;
+}
+
+} // namespace LuGui

@@ -1,0 +1,127 @@
+// Lists: rows of text, the row under the cursor, and the two notifications a click sends.
+#include "LuList.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "GameGraphic.h"
+#include "Graphics.h"
+#include "Input.h"
+
+namespace LuGui {
+
+void CLuList::PreSetParam(int nType, bool bScrollButtons, bool bSlider, int nFlag1, int nFlag2) {
+    m_nType = nType;
+    m_bScrollButtons = bScrollButtons;
+    m_bSlider = bSlider;
+    m_nFlag1 = nFlag1;
+    m_nFlag2 = nFlag2;
+}
+
+int CLuList::AddString(const char* szText) {
+    m_vecRows.emplace_back(szText ? szText : "");
+    return GetCount() - 1;
+}
+
+void CLuList::SetCurSel(int nRow) {
+    m_nCurSel = nRow >= 0 && nRow < GetCount() ? nRow : -1;
+}
+
+int CLuList::GetText(int nRow, char* szBuf, int nSize) const {
+    if (nRow < 0 || nRow >= GetCount() || !szBuf || nSize <= 0) return -1;
+    const std::string& row = m_vecRows[static_cast<std::size_t>(nRow)];
+    const std::size_t n = std::min(row.size(), static_cast<std::size_t>(nSize - 1));
+    std::memcpy(szBuf, row.data(), n);
+    szBuf[n] = '\0';
+    return static_cast<int>(n);
+}
+
+const char* CLuList::GetText(int nRow) const {
+    return nRow >= 0 && nRow < GetCount() ? m_vecRows[static_cast<std::size_t>(nRow)].c_str() : "";
+}
+
+void CLuList::ResetContent() {
+    m_vecRows.clear();
+    m_nCurSel = -1;
+    m_nHoverRow = -1;
+}
+
+void CLuList::SetItemColors(DWORD dwNormal, DWORD dwHighlight) {
+    m_dwNormalColor = dwNormal;
+    m_dwHighlightColor = dwHighlight;
+}
+
+void CLuList::SetItemLayout(int nFontOffsetX, int nFontOffsetY, int nRowHeight) {
+    m_nFontOffsetX = nFontOffsetX;
+    m_nFontOffsetY = nFontOffsetY;
+    m_nRowHeight = std::max(1, nRowHeight);
+}
+
+void CLuList::SetMoveClose(int x, int y) {
+    m_ptDeleteMark = POINT{x, y};
+}
+
+void CLuList::SetChooserAni(const char* szTitle, bool bOn) {
+    m_strChooser = szTitle ? szTitle : "";
+    m_bChooserOn = bOn;
+}
+
+RECT CLuList::RowRect(int nRow) const {
+    const RECT rc = GetWindowRect();
+    const int nTop = rc.top + nRow * m_nRowHeight;
+    return RECT{rc.left, nTop, rc.right, nTop + m_nRowHeight};
+}
+
+int CLuList::RowAt(POINT pt) const {
+    if (!HitTest(pt)) return -1;
+    const int nRow = (pt.y - GetWindowRect().top) / m_nRowHeight;
+    return nRow < GetCount() ? nRow : -1;
+}
+
+bool CLuList::OnDeleteMark(int nRow, POINT pt) const {
+    if (m_ptDeleteMark.x < 0 || nRow < 0 || nRow >= GetCount()) return false;
+    const RECT rcRow = RowRect(nRow);
+    const int x = rcRow.left + m_ptDeleteMark.x;
+    const int y = rcRow.top + m_ptDeleteMark.y;
+    return pt.x >= x && pt.x < x + DELETE_MARK_SIZE && pt.y >= y && pt.y < y + DELETE_MARK_SIZE;
+}
+
+int CLuList::Show() {
+    if (!m_bVisible || m_bHideState) return 0;
+    POINT ptCursor{};
+    GetCursorPos(&ptCursor);
+    m_nHoverRow = m_bEnabled ? RowAt(ptCursor) : -1;
+    ShowBackGround();
+    const RECT rc = GetWindowRect();
+    const int nFont = m_sizeFont.cy > 0 ? m_sizeFont.cy : CMyBitmap::GetFontSize();
+    for (int nRow = 0; nRow < GetCount(); ++nRow) {
+        const RECT rcRow = RowRect(nRow);
+        if (rcRow.bottom > rc.bottom) break; // rows that do not fit are not drawn
+        const bool bMarked = nRow == m_nHoverRow || nRow == m_nCurSel;
+        if (bMarked && m_bChooserOn && !m_strChooser.empty())
+            CGameGraphic::ShowAniRect(m_strBgAniFile.c_str(), m_strChooser.c_str(), 0, rcRow);
+        CMyBitmap::ShowString(rcRow.left + m_nFontOffsetX, rcRow.top + m_nFontOffsetY,
+                              bMarked ? m_dwHighlightColor : m_dwNormalColor,
+                              m_vecRows[static_cast<std::size_t>(nRow)].c_str(),
+                              CMyBitmap::GetDefaultFontName(), nFont);
+    }
+    return 1;
+}
+
+void CLuList::OnMouseMove(UINT, POINT point) {
+    m_nHoverRow = RowAt(point);
+}
+
+void CLuList::OnLButtonUp(UINT, POINT point) {
+    if (!IsPressed() || !m_bEnabled) return;
+    const int nRow = RowAt(point);
+    if (nRow < 0) return;
+    if (OnDeleteMark(nRow, point)) {
+        NotifyParent(LU_MSG_LIST_DELETE, nRow);
+        return;
+    }
+    m_nCurSel = nRow;
+    NotifyParent(LU_MSG_LIST_SELECT, nRow);
+}
+
+} // namespace LuGui

@@ -1,0 +1,16 @@
+// The widget toolkit's static text: a label that draws its text, on one line or over several.
+#pragma once
+
+#include "LuCtrl.h"
+
+namespace LuGui {
+
+class HOSTLIB_API CLuStatic : public CLuCtrl {
+public:
+    CLuStatic() = default;
+    ~CLuStatic() override = default;
+
+    ELuCtrlKind GetKind() const override { return ELuCtrlKind::Static; }
+};
+
+} // namespace LuGui
