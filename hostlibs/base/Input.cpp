@@ -30,3 +30,10 @@ short GetKeyState(int nVirtKey) {
     std::lock_guard lock(host::detail::Env().mutex);
     return host::detail::Env().keysDown[nVirtKey] ? static_cast<short>(0x8000) : short{0};
 }
+
+int GetSystemMetrics(int nIndex) {
+    std::lock_guard lock(host::detail::Env().mutex);
+    if (nIndex == SM_CXSCREEN) return host::detail::Env().screenWidth;
+    if (nIndex == SM_CYSCREEN) return host::detail::Env().screenHeight;
+    return 0;
+}

@@ -4,18 +4,30 @@
 #include <cstring>
 
 #include "platform/GameData.h"
+#include "platform/Input.h"
 #include "simulator/FlashSimulator.h"
+#include "simulator/LayoutNumbers.h"
 
 namespace {
+
 // The two server answers that send the standard creation layout back to its start.
 constexpr const char* NAME_REFUSED_TEXTS[] = {"This name already exists. Please enter a new one.",
                                               "Error: Illegal Name!"};
+constexpr const char* ENGLISH_LANGUAGE = "English";
+// The box's placement formula counts from the client's reference screen.
+constexpr int REFERENCE_WIDTH = 1024;
+constexpr int REFERENCE_HEIGHT = 768;
 
 bool IsNameRefusal(const char* szText) {
     for (const char* text : NAME_REFUSED_TEXTS)
         if (std::strcmp(szText, text) == 0) return true;
     return false;
 }
+
+bool IsStandardCreationLayout() {
+    return std::strcmp(RoleDataQueryEx()->GetLanguageName(), ENGLISH_LANGUAGE) != 0;
+}
+
 } // namespace
 
 CDlgFlashConfirm::CDlgFlashConfirm() : CSimDialog(IDD) {
@@ -23,18 +35,102 @@ CDlgFlashConfirm::CDlgFlashConfirm() : CSimDialog(IDD) {
 
 CDlgFlashConfirm::~CDlgFlashConfirm() = default;
 
+// ---- controls ------------------------------------------------------------------------------------
+
+void CDlgFlashConfirm::DoDataExchange(LuGui::CDataExchange* pDX) {
+    CSimDialog::DoDataExchange(pDX);
+    LuGui::DDX_Control(pDX, IDC_BACKGROUND, m_staticBackground);
+    LuGui::DDX_Control(pDX, IDC_EXCLAMATION, m_staticExclamation);
+    LuGui::DDX_Control(pDX, IDC_MESSAGE, m_staticMessage);
+    LuGui::DDX_Control(pDX, IDC_OK, m_btnOk);
+    LuGui::DDX_Control(pDX, IDC_CANCEL, m_btnCancel);
+}
+
+void CDlgFlashConfirm::MessageMap() {
+    CSimDialog::MessageMap();
+    PushMsgMap(WM_COMMAND, IDC_OK, &CDlgFlashConfirm::OnOk);
+    PushMsgMap(WM_COMMAND, IDC_CANCEL, &CDlgFlashConfirm::OnCancel);
+}
+
+// ---- handlers ------------------------------------------------------------------------------------
+
+void CDlgFlashConfirm::OnOk() {
+    CFlashSimulator* pSim = FlashSim();
+    switch (m_nType) {
+    case TYPE_EXIT:
+        if (pSim) pSim->NotifyHost("CMD_EXITOK", "");
+        break;
+    case TYPE_CLEAR_ACCOUNT:
+        if (pSim) pSim->NotifyHost("CMD_CLEARACCOUNT", "");
+        break;
+    case TYPE_NAME_REFUSED:
+        ReopenCreation();
+        break;
+    default:
+        // NOTE: kinds 3 and 4 also empty the introduction panel's name entry once that panel exists.
+        break;
+    }
+    ShowWindow(SW_HIDE);
+}
+
+void CDlgFlashConfirm::OnCancel() {
+    if (m_nType == TYPE_NAME_REFUSED) ReopenCreation();
+    ShowWindow(SW_HIDE);
+}
+
+// ---- opening -------------------------------------------------------------------------------------
+
 void CDlgFlashConfirm::Show(int nType, const char* szText) {
     ShowWindow(SW_SHOW);
     m_nType = nType;
-    CFlashSimulator* sim = FlashSim();
-    if (nType == TYPE_EXIT && sim)
-        m_strText = sim->GetStr(STR_EXIT_QUESTION);
-    else if (nType == TYPE_CLEAR_ACCOUNT && sim)
-        m_strText = sim->GetStr(STR_CLEAR_ACCOUNT_QUESTION);
+    CFlashSimulator* pSim = FlashSim();
+    if (nType != TYPE_INPUT && pSim && pSim->GetMainPathWidth() != 0 && pSim->GetMainPathHeight() != 0)
+        PlaceByMainWindow();
+    if (nType == TYPE_EXIT && pSim)
+        m_staticMessage.SetWindowTextA(pSim->GetStr(STR_EXIT_QUESTION));
+    else if (nType == TYPE_CLEAR_ACCOUNT && pSim)
+        m_staticMessage.SetWindowTextA(pSim->GetStr(STR_CLEAR_ACCOUNT_QUESTION));
     else if ((nType == TYPE_ERROR || nType == TYPE_INPUT) && szText)
-        m_strText = szText;
-    if (szText && IsNameRefusal(szText) && std::strcmp(RoleDataQueryEx()->GetLanguageName(), "English") != 0)
-        m_nType = TYPE_NAME_REFUSED;
-    // NOTE: placement, the message control and the OK/Cancel buttons come with the control layer
-    // (docs/STATUS.md).
+        m_staticMessage.SetWindowTextA(szText);
+    if (nType == TYPE_INPUT) PlaceByMainWindow();
+    if (szText && IsNameRefusal(szText) && IsStandardCreationLayout()) m_nType = TYPE_NAME_REFUSED;
+    ArrangeButtons();
+}
+
+void CDlgFlashConfirm::PlaceByMainWindow() {
+    CFlashSimulator* pSim = FlashSim();
+    if (!pSim) return;
+    RECT rc = GetWindowRect();
+    ScreenToClient(&rc);
+    const int nWidth = GetWidth();
+    const int nHeight = GetHeight();
+    const int x = rc.left - REFERENCE_WIDTH + pSim->GetMainPathWidth() - nWidth / 2;
+    const int y = rc.bottom + pSim->GetMainPathHeight() - REFERENCE_HEIGHT;
+    MoveWindow(x, y, nWidth, nHeight, TRUE);
+}
+
+void CDlgFlashConfirm::ArrangeButtons() {
+    const bool bTwoButtons = m_nType == TYPE_EXIT || m_nType == TYPE_CLEAR_ACCOUNT;
+    int pos[2] = {0, 0};
+    READ_LAYOUT_NUMBERS(bTwoButtons ? STR_OK_POS_TWO_BUTTONS : STR_OK_POS_ONE_BUTTON, pos);
+    m_btnOk.MoveWindow(pos[0], pos[1], m_btnOk.GetWidth(), m_btnOk.GetHeight(), TRUE);
+    m_btnCancel.EnableWindow(bTwoButtons ? TRUE : FALSE);
+    m_btnCancel.ShowWindow(bTwoButtons ? SW_SHOW : SW_HIDE);
+}
+
+void CDlgFlashConfirm::ReopenCreation() {
+    CFlashSimulator* pSim = FlashSim();
+    if (!pSim) return;
+    char szSize[32];
+    SafeSprintf(szSize, sizeof szSize, "%d-%d-1", GetSystemMetrics(SM_CXSCREEN),
+                GetSystemMetrics(SM_CYSCREEN));
+    pSim->SetVariable("SetMainPath", szSize);
+    pSim->NotifyHost("CLOSE_BACK", "");
+}
+
+// ---- drawing -------------------------------------------------------------------------------------
+
+int CDlgFlashConfirm::Show() {
+    // The library draws the background, the sign, the message and the buttons, in binding order.
+    return CSimDialog::Show();
 }

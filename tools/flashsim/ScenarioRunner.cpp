@@ -5,9 +5,11 @@
 #include <cstdlib>
 #include <filesystem>
 
+#include "Input.h"
 #include "InterfaceCalls.h"
 #include "hostlibs/HostCanvas.h"
 #include "hostlibs/HostEnv.h"
+#include "hostlibs/HostGui.h"
 
 namespace {
 Transcript* g_pTranscript = nullptr;
@@ -103,6 +105,12 @@ void ScenarioRunner::Execute(const ScenarioStep& step) {
     if (name == "log") return StepLog(step);
     if (name == "destroy") return StepDestroy(step);
     if (name == "shot") return StepShot(step);
+    if (name == "click") return StepClick(step);
+    if (name == "move" || name == "down" || name == "up" || name == "rdown" || name == "rup")
+        return StepMouse(step);
+    if (name == "char") return StepChar(step);
+    if (name == "key") return StepKey(step);
+    if (name == "show") return StepShow(step);
     Fail(step, "unknown step \"" + EscapeText(name) + "\"");
 }
 
@@ -235,4 +243,149 @@ void ScenarioRunner::StepShot(const ScenarioStep& step) {
     std::error_code ec;
     if (path.has_parent_path()) fs::create_directories(path.parent_path(), ec);
     if (!host::WriteFramePng(path.string())) Fail(step, "cannot write " + path.string());
+}
+
+// ---- window messages -------------------------------------------------------------------------------
+
+namespace {
+
+// NOTE: the marked look of check-like buttons, which keep no state of their own.
+constexpr const char* CHECKED_LOOK = "NewLogin_HookPic";
+
+// Keys whose press also types a character (the window's message loop translates them).
+int TypedCharOfKey(int vk) {
+    return vk == VK_BACK || vk == VK_TAB || vk == VK_RETURN || vk == VK_ESCAPE ? vk : 0;
+}
+
+bool ParseKey(const std::string& word, int& vk) {
+    static const std::pair<const char*, int> NAMES[] = {
+        {"BACK", VK_BACK},     {"TAB", VK_TAB},      {"RETURN", VK_RETURN},   {"ENTER", VK_RETURN},
+        {"ESCAPE", VK_ESCAPE}, {"SHIFT", VK_SHIFT},  {"CONTROL", VK_CONTROL}, {"END", VK_END},
+        {"HOME", VK_HOME},     {"LEFT", VK_LEFT},    {"UP", VK_UP},           {"RIGHT", VK_RIGHT},
+        {"DOWN", VK_DOWN},     {"DELETE", VK_DELETE}};
+    for (const auto& [name, code] : NAMES)
+        if (word == name) {
+            vk = code;
+            return true;
+        }
+    long long n = 0;
+    if (!ParseInt(word, n) || n < 0 || n > 255) return false;
+    vk = static_cast<int>(n);
+    return true;
+}
+
+// UTF-8 to UTF-16 code units, as the window receives typed characters; bytes that are no UTF-8 pass alone.
+std::vector<UINT> Utf16Units(const std::string& text) {
+    std::vector<UINT> units;
+    for (std::size_t i = 0; i < text.size();) {
+        const unsigned char c = static_cast<unsigned char>(text[i]);
+        const int nLen = c < 0x80 ? 1 : (c >> 5) == 6 ? 2 : (c >> 4) == 14 ? 3 : (c >> 3) == 30 ? 4 : 1;
+        if (i + static_cast<std::size_t>(nLen) > text.size() || nLen == 1) {
+            units.push_back(c);
+            ++i;
+            continue;
+        }
+        UINT cp = c & (0x7F >> nLen);
+        for (int k = 1; k < nLen; ++k) cp = (cp << 6) | (static_cast<unsigned char>(text[i + k]) & 0x3F);
+        if (cp >= 0x10000) {
+            cp -= 0x10000;
+            units.push_back(0xD800 + (cp >> 10));
+            units.push_back(0xDC00 + (cp & 0x3FF));
+        } else {
+            units.push_back(cp);
+        }
+        i += static_cast<std::size_t>(nLen);
+    }
+    return units;
+}
+
+} // namespace
+
+void ScenarioRunner::SendToWindow(UINT uMsg, WPARAM wParam, LPARAM lParam, bool bPreTranslate) {
+    if (bPreTranslate) {
+        MSG msg{nullptr, uMsg, wParam, lParam, TimeGet(), POINT{0, 0}};
+        GetCursorPos(&msg.pt);
+        // NOTE: like the game client, the window procedure runs whatever PreTranslateMessage answers.
+        m_pSim->PreTranslateMessage(&msg);
+    }
+    m_pSim->WindowProc(nullptr, uMsg, wParam, lParam);
+}
+
+void ScenarioRunner::SendMouse(UINT uMsg, int x, int y) {
+    host::SetCursor(x, y);
+    if (uMsg == WM_LBUTTONDOWN || uMsg == WM_LBUTTONUP) host::SetKeyDown(VK_LBUTTON, uMsg == WM_LBUTTONDOWN);
+    if (uMsg == WM_RBUTTONDOWN || uMsg == WM_RBUTTONUP) host::SetKeyDown(VK_RBUTTON, uMsg == WM_RBUTTONDOWN);
+    WPARAM keys = 0;
+    if (GetKeyState(VK_LBUTTON) & 0x8000) keys |= MK_LBUTTON;
+    if (GetKeyState(VK_RBUTTON) & 0x8000) keys |= MK_RBUTTON;
+    SendToWindow(uMsg, keys, MAKELPARAM(x, y), false);
+}
+
+void ScenarioRunner::StepClick(const ScenarioStep& step) {
+    if (!RequireSimulator(step)) return;
+    long long nDialog = 0, nControl = 0;
+    if (step.words.size() != 3 || !ParseInt(step.words[1], nDialog) || !ParseInt(step.words[2], nControl))
+        return Fail(step, "click takes DIALOG CONTROL");
+    host::WindowState state;
+    if (!host::DescribeControl(static_cast<UINT>(nDialog), static_cast<UINT>(nControl), state) ||
+        !state.shown) {
+        m_transcript.Line("! no such visible control");
+        return;
+    }
+    const int x = (state.rect.left + state.rect.right) / 2;
+    const int y = (state.rect.top + state.rect.bottom) / 2;
+    SendMouse(WM_LBUTTONDOWN, x, y);
+    SendMouse(WM_LBUTTONUP, x, y);
+}
+
+void ScenarioRunner::StepMouse(const ScenarioStep& step) {
+    if (!RequireSimulator(step)) return;
+    long long x = 0, y = 0;
+    if (step.words.size() != 3 || !ParseInt(step.words[1], x) || !ParseInt(step.words[2], y))
+        return Fail(step, step.words[0] + " takes X Y");
+    const std::string& name = step.words[0];
+    const UINT uMsg = name == "move"    ? WM_MOUSEMOVE
+                      : name == "down"  ? WM_LBUTTONDOWN
+                      : name == "up"    ? WM_LBUTTONUP
+                      : name == "rdown" ? WM_RBUTTONDOWN
+                                        : WM_RBUTTONUP;
+    SendMouse(uMsg, static_cast<int>(x), static_cast<int>(y));
+}
+
+void ScenarioRunner::StepChar(const ScenarioStep& step) {
+    if (!RequireSimulator(step)) return;
+    if (step.words.size() < 2) return Fail(step, "char takes TEXT");
+    for (UINT unit : Utf16Units(UnescapeValue(step.RestAfter(1)))) SendToWindow(WM_CHAR, unit, 1, true);
+}
+
+void ScenarioRunner::StepKey(const ScenarioStep& step) {
+    if (!RequireSimulator(step)) return;
+    int vk = 0;
+    if (step.words.size() != 2 || !ParseKey(step.words[1], vk))
+        return Fail(step, "key takes VK (a number or name)");
+    host::SetKeyDown(vk, true);
+    SendToWindow(WM_KEYDOWN, static_cast<WPARAM>(vk), 1, true);
+    if (const int ch = TypedCharOfKey(vk)) SendToWindow(WM_CHAR, static_cast<WPARAM>(ch), 1, true);
+    host::SetKeyDown(vk, false);
+    SendToWindow(WM_KEYUP, static_cast<WPARAM>(vk), 1, true);
+}
+
+void ScenarioRunner::StepShow(const ScenarioStep& step) {
+    if (!RequireSimulator(step)) return;
+    long long nDialog = 0, nControl = 0;
+    if (step.words.size() < 2 || step.words.size() > 3 || !ParseInt(step.words[1], nDialog) ||
+        (step.words.size() == 3 && !ParseInt(step.words[2], nControl)))
+        return Fail(step, "show takes DIALOG [CONTROL]");
+    host::WindowState state;
+    const bool bControl = step.words.size() == 3;
+    const bool bFound =
+        bControl ? host::DescribeControl(static_cast<UINT>(nDialog), static_cast<UINT>(nControl), state)
+                 : host::DescribeDialog(static_cast<UINT>(nDialog), state);
+    if (!bFound) {
+        m_transcript.Line(bControl ? "! no such control" : "! no such dialog");
+        return;
+    }
+    if (state.kind == "Button" && state.bg == CHECKED_LOOK) state.checked = true;
+    const std::string name = step.words[1] + (bControl ? "." + step.words[2] : std::string());
+    m_transcript.Line("= " + name + " " + state.Describe());
 }

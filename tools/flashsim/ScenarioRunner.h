@@ -44,6 +44,16 @@ private:
     void StepLog(const ScenarioStep& step);
     void StepDestroy(const ScenarioStep& step);
     void StepShot(const ScenarioStep& step);
+    void StepClick(const ScenarioStep& step);
+    void StepMouse(const ScenarioStep& step);
+    void StepChar(const ScenarioStep& step);
+    void StepKey(const ScenarioStep& step);
+    void StepShow(const ScenarioStep& step);
+
+    /// Sends one window message as the game client's window does: PreTranslateMessage, then WindowProc.
+    void SendToWindow(UINT uMsg, WPARAM wParam, LPARAM lParam, bool bPreTranslate);
+    /// A mouse message at a screen point, with the cursor and button state updated first.
+    void SendMouse(UINT uMsg, int x, int y);
 
     void InstallLogSink();
 

@@ -108,7 +108,7 @@ TEST_F(Variables, LoginKeyChecksTheAgreementAndTheRegisterPage) {
     Set("VAR_SETKEYDOWN", "1");
     EXPECT_TRUE(TakeCommands().empty());
     EXPECT_EQ(m_sim->GetConfirmDialog().GetType(), CDlgFlashConfirm::TYPE_ERROR);
-    EXPECT_EQ(m_sim->GetConfirmDialog().GetText(), "Tick the agreement.");
+    EXPECT_STREQ(m_sim->GetConfirmDialog().GetText(), "Tick the agreement.");
 
     m_sim->SetPlatformModeA(true);
     m_sim->SetRegisterOpen(true);

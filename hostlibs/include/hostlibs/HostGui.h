@@ -1,0 +1,38 @@
+// The host side of the widget toolkit: what a dialog or control of the live dialog manager looks like now.
+//
+// Used by the reference host and the tests (the `show` and `click` steps), never by the system.
+#pragma once
+
+#include <string>
+
+#include "BaseLib.h"
+
+namespace host {
+
+/// The state of one window, as the toolkit keeps it.
+struct HOSTLIB_API WindowState {
+    std::string kind;     ///< "Dialog", "Button", "Check", "Edit", "Image", "List", "Progress", "Static"
+    bool visible = false; ///< the window's own flag (a control of a hidden dialog can be visible)
+    bool shown = false;   ///< visible, and its dialog too
+    bool enabled = false;
+    RECT rect{0, 0, 0, 0}; ///< screen rectangle
+    std::string text;
+    std::string bg; ///< background animation title
+    bool checked = false;
+    int frame = 0;
+    bool focus = false;           ///< edits: has the keyboard focus
+    int selStart = 0, selEnd = 0; ///< edits: selection in bytes
+    int rows = 0, curSel = -1;    ///< lists
+    int pos = 0;                  ///< progress bars
+
+    /// The fields of the `show` step: `visible=1 enabled=1 text="..." bg="..." checked=0`, then what the
+    /// kind adds (`sel=S,E focus=F`, `rows=N cursel=I`, `pos=P`).
+    std::string Describe() const;
+};
+
+/// Describes dialog nDialog (template id) of the live dialog manager; false when there is none.
+HOSTLIB_API bool DescribeDialog(UINT nDialog, WindowState& out);
+/// Describes control nControl of dialog nDialog; false when either does not exist.
+HOSTLIB_API bool DescribeControl(UINT nDialog, UINT nControl, WindowState& out);
+
+} // namespace host

@@ -1,0 +1,95 @@
+// Inspection of the live dialog manager's windows for the host.
+#include "hostlibs/HostGui.h"
+
+#include "GuiMgr.h"
+#include "LuCheck.h"
+#include "LuDialog.h"
+#include "LuEdit.h"
+#include "LuList.h"
+#include "LuProgress.h"
+
+namespace host {
+namespace {
+
+std::string Escape(const std::string& text) {
+    static const char* const HEX = "0123456789ABCDEF";
+    std::string out;
+    for (unsigned char c : text) {
+        if (c == '\\' || c == '"') {
+            out += '\\';
+            out += static_cast<char>(c);
+        } else if (c == '\n') {
+            out += "\\n";
+        } else if (c < 0x20 || c >= 0x7F) {
+            out += "\\x";
+            out += HEX[c >> 4];
+            out += HEX[c & 0xF];
+        } else {
+            out += static_cast<char>(c);
+        }
+    }
+    return out;
+}
+
+void FillCommon(const LuGui::CLuBaseWindow& wnd, WindowState& out) {
+    out.visible = wnd.IsWindowVisible() != FALSE;
+    out.enabled = wnd.IsWindowEnabled() != FALSE;
+    out.rect = wnd.GetWindowRect();
+    out.text = wnd.GetWindowTextA();
+    out.bg = wnd.GetBackGroundAni();
+    out.frame = wnd.GetCurFrame();
+}
+
+LuGui::CLuDialog* FindDialog(UINT nDialog) {
+    LuGui::CGuiMgr* pMgr = LuGui::CGuiMgr::Current();
+    return pMgr ? pMgr->FindDialog(nDialog) : nullptr;
+}
+
+} // namespace
+
+std::string WindowState::Describe() const {
+    std::string line = "visible=" + std::to_string(visible ? 1 : 0) +
+                       " enabled=" + std::to_string(enabled ? 1 : 0) + " text=\"" + Escape(text) +
+                       "\" bg=\"" + Escape(bg) + "\" checked=" + (checked ? "1" : "0");
+    if (kind == "Edit")
+        line += " sel=" + std::to_string(selStart) + "," + std::to_string(selEnd) +
+                " focus=" + (focus ? "1" : "0");
+    if (kind == "List") line += " rows=" + std::to_string(rows) + " cursel=" + std::to_string(curSel);
+    if (kind == "Progress") line += " pos=" + std::to_string(pos);
+    return line;
+}
+
+bool DescribeDialog(UINT nDialog, WindowState& out) {
+    const LuGui::CLuDialog* pDialog = FindDialog(nDialog);
+    if (!pDialog) return false;
+    out = WindowState{};
+    out.kind = "Dialog";
+    FillCommon(*pDialog, out);
+    out.shown = out.visible;
+    return true;
+}
+
+bool DescribeControl(UINT nDialog, UINT nControl, WindowState& out) {
+    const LuGui::CLuDialog* pDialog = FindDialog(nDialog);
+    const LuGui::CLuCtrl* pCtrl = pDialog ? pDialog->GetControl(nControl) : nullptr;
+    if (!pCtrl) return false;
+    out = WindowState{};
+    out.kind = LuGui::CtrlKindName(pCtrl->GetKind());
+    FillCommon(*pCtrl, out);
+    out.shown = out.visible && pDialog->IsWindowVisible() && !pCtrl->IsHideState();
+    if (const auto* pCheck = dynamic_cast<const LuGui::CLuCheck*>(pCtrl))
+        out.checked = pCheck->GetCheckValue();
+    if (const auto* pEdit = dynamic_cast<const LuGui::CLuEdit*>(pCtrl)) {
+        out.focus = pEdit->IsFocus() != FALSE;
+        out.selStart = LOWORD(pEdit->GetSel());
+        out.selEnd = HIWORD(pEdit->GetSel());
+    }
+    if (const auto* pList = dynamic_cast<const LuGui::CLuList*>(pCtrl)) {
+        out.rows = pList->GetCount();
+        out.curSel = pList->GetCurSel();
+    }
+    if (const auto* pProgress = dynamic_cast<const LuGui::CLuProgress*>(pCtrl)) out.pos = pProgress->GetPos();
+    return true;
+}
+
+} // namespace host

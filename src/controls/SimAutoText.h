@@ -1,0 +1,93 @@
+// Rich text laid out inside a width: line breaking, inline colour/size/style tags, alignment, drawing by
+// runs.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/BaseLib.h"
+
+/// A stretch of text with the same attributes on one line.
+struct SAutoTextRun {
+    DWORD dwColor = 0;   ///< RGB, or ARGB from a colour tag
+    int nFontSize = 0;   ///< pixels
+    int nX = 0;          ///< from the line's start
+    int nOffsetY = 0;    ///< from the line's top
+    int nLine = 0;       ///< index of its line record
+    std::string strText; ///< at most MAX_RUN_TEXT bytes
+    int nStyle = 0;      ///< 0 plain, 1 blinking, 2 underlined
+};
+
+/// One laid-out line.
+struct SAutoTextLine {
+    int nX = 0; ///< alignment offset
+    int nY = 0; ///< top, from the block's top
+    int nWidth = 0;
+    int nHeight = 0;
+};
+
+class CSimAutoText {
+public:
+    static constexpr std::size_t MAX_RUN_TEXT = 4095;
+    static constexpr int ALIGN_LEFT = 0;
+    static constexpr int ALIGN_RIGHT = 1;
+    static constexpr int ALIGN_CENTER = 2;
+    static constexpr int STYLE_PLAIN = 0;
+    static constexpr int STYLE_BLINK = 1;
+    static constexpr int STYLE_UNDERLINE = 2;
+
+    CSimAutoText();
+    CSimAutoText(POINT pt, const char* szText, bool bWrap, bool bTags);
+    CSimAutoText(int x, int y, const char* szText, bool bWrap, bool bTags);
+    virtual ~CSimAutoText();
+
+    /// Lays the text out (newline marks prepared first); 0 without text.
+    int SetText(const char* szText, bool bWrap, bool bTags);
+    /// Frees all runs and lines; the text size becomes 0 x 0.
+    void Clear();
+    /// Draws the runs at the position; ShowAt moves the position first.
+    void Show();
+    void ShowAt(int x, int y);
+
+    /// The layout width, never below the font size.
+    void SetWidth(int nWidth);
+    void SetColor(DWORD dwColor) { m_dwColor = dwColor; }
+    void SetFontSize(int nFontSize) { m_nFontSize = nFontSize; }
+    void SetCharSpacing(int nSpacing) { m_nCharSpacing = nSpacing; }
+    void SetLineSpacing(int nSpacing) { m_nLineSpacing = nSpacing; }
+    void SetStyle(int nStyle) { m_nStyle = nStyle; }
+    void SetStrResMode(std::uint32_t nMode) { m_nStrResMode = nMode; }
+    void SetPos(int x, int y) { m_ptPos = POINT{x, y}; }
+    /// Re-aligns the existing lines at once when the value changes.
+    void SetAlign(int nAlign);
+
+    int GetLineCount() const { return static_cast<int>(m_vecLines.size()); }
+    /// Width of line i, 0 for an unknown index.
+    int GetLineWidth(int nLine) const;
+    POINT GetPos() const { return m_ptPos; }
+    SIZE GetTextSize() const { return m_sizeText; }
+    int GetWidth() const { return m_nWidth; }
+    int GetFontSize() const { return m_nFontSize; }
+    const std::vector<SAutoTextRun>& GetRuns() const { return m_vecRuns; }
+    const std::vector<SAutoTextLine>& GetLines() const { return m_vecLines; }
+
+private:
+    void Layout(std::string_view text, bool bWrap, bool bTags);
+    void Align();
+    void DrawRun(const SAutoTextRun& run) const;
+
+    POINT m_ptPos{0, 0};
+    std::vector<SAutoTextRun> m_vecRuns;
+    std::vector<SAutoTextLine> m_vecLines;
+    int m_nWidth = 300;
+    DWORD m_dwColor = 0xFFFFFF;
+    int m_nFontSize = 14;
+    int m_nCharSpacing = 0;
+    int m_nLineSpacing = 2;
+    int m_nStyle = STYLE_PLAIN;
+    int m_nAlign = ALIGN_LEFT;
+    SIZE m_sizeText{0, 0};
+    std::uint32_t m_nStrResMode = 0;
+};
