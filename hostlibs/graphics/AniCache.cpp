@@ -1,6 +1,7 @@
 // Caching of animation data so that the per-frame lookups of every widget cost a map search, not a file read.
 #include "AniCache.h"
 
+#include <algorithm>
 #include <fstream>
 #include <sstream>
 
@@ -17,9 +18,11 @@ constexpr std::size_t kMaxWarningsLogged = 20;
 std::optional<std::string> ReadText(const std::string& path) {
     std::ifstream in(path, std::ios::binary);
     if (!in) return std::nullopt;
-    std::string text(kMaxIndexBytes, '\0');
-    in.read(text.data(), static_cast<std::streamsize>(text.size()));
-    text.resize(static_cast<std::size_t>(in.gcount()));
+    // Read in pieces up to the cap: a cap-sized buffer per file would cost more than the parse.
+    std::string text;
+    char buf[16384];
+    while (text.size() < kMaxIndexBytes && in.read(buf, sizeof buf).gcount() > 0)
+        text.append(buf, std::min(static_cast<std::size_t>(in.gcount()), kMaxIndexBytes - text.size()));
     return text;
 }
 } // namespace

@@ -86,6 +86,17 @@ int FontRenderer::Ascender(int size) {
 
 int FontRenderer::Measure(std::u32string_view text, int size) {
     size = ClampSize(size);
+    std::lock_guard lock(m_advanceMutex);
+    auto [it, inserted] = m_asciiAdvances.try_emplace(size);
+    std::array<int, 128>& ascii = it->second;
+    if (inserted) ascii.fill(-1);
+    auto advanceOf = [&](char32_t c) {
+        if (c < 128 && ascii[c] >= 0) return ascii[c];
+        const Glyph* glyph = GetGlyph(c, size);
+        const int advance = glyph ? glyph->advance : size / 2;
+        if (c < 128) ascii[c] = advance;
+        return advance;
+    };
     int widest = 0;
     int line = 0;
     for (char32_t c : text) {
@@ -94,8 +105,7 @@ int FontRenderer::Measure(std::u32string_view text, int size) {
             line = 0;
             continue;
         }
-        const Glyph* glyph = GetGlyph(c, size);
-        line += glyph ? glyph->advance : size / 2;
+        line += advanceOf(c);
     }
     return std::max(widest, line);
 }

@@ -1,11 +1,13 @@
 // Glyphs of the one font face the graphics library draws with, rendered by FreeType and cached per size.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <map>
 #include <mutex>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -56,6 +58,10 @@ private:
     int m_selectedSize = 0;
     std::map<std::pair<int, char32_t>, Glyph> m_glyphs;
     std::mutex m_mutex;
+    /// ASCII advances per font size (-1: not known yet), so that measuring a label takes one look-up per
+    /// text instead of one locked glyph look-up per character.
+    std::unordered_map<int, std::array<int, 128>> m_asciiAdvances;
+    std::mutex m_advanceMutex;
 };
 
 } // namespace gfx

@@ -15,7 +15,8 @@ int BackGroundFrameCount(const CLuBaseWindow& wnd) {
 }
 
 int FrameOrFirst(const CLuBaseWindow& wnd, int nFrame) {
-    return nFrame < BackGroundFrameCount(wnd) ? nFrame : 0;
+    // Frame 0 needs no look-up: every animation the library hands out has it.
+    return nFrame == 0 || nFrame < BackGroundFrameCount(wnd) ? nFrame : 0;
 }
 
 } // namespace LuGui

@@ -52,10 +52,11 @@ void CLuCtrl::ShowWindowText() {
     }
     const RECT rc = GetWindowRect();
     const int nFont = m_sizeFont.cy > 0 ? m_sizeFont.cy : CMyBitmap::GetFontSize();
-    const int nTextWidth = CMyBitmap::GetStringWidth(m_strText.c_str(), nFont);
     int x = rc.left;
-    if (m_nAlign == LU_ALIGN_CENTER) x = rc.left + (GetWidth() - nTextWidth) / 2;
-    if (m_nAlign == LU_ALIGN_RIGHT) x = rc.right - nTextWidth;
+    if (m_nAlign != LU_ALIGN_LEFT) {
+        const int nTextWidth = CMyBitmap::GetStringWidth(m_strText.c_str(), nFont);
+        x = m_nAlign == LU_ALIGN_CENTER ? rc.left + (GetWidth() - nTextWidth) / 2 : rc.right - nTextWidth;
+    }
     const int y = rc.top + std::max(0, (GetHeight() - nFont) / 2);
     CMyBitmap::ShowString(x, y, m_dwFontColor, m_strText.c_str(), CMyBitmap::GetDefaultFontName(), nFont);
 }

@@ -86,7 +86,8 @@ bool ApplyTag(std::string_view name, SAttributes& attr, const SAttributes& defau
 // Bytes of the character that starts at text[i]: a lead byte takes its continuation bytes with it.
 std::size_t CharLength(std::string_view text, std::size_t i) {
     const unsigned char c = static_cast<unsigned char>(text[i]);
-    if (!CMyBitmap::IsDBCSLeadByte(c)) return 1;
+    // NOTE: no client encoding has ASCII lead bytes; skipping the library call keeps per-frame layouts cheap.
+    if (c < 0x80 || !CMyBitmap::IsDBCSLeadByte(c)) return 1;
     const std::size_t nWant = c >= 0xF0 ? 4 : c >= 0xE0 ? 3 : 2;
     std::size_t n = 1;
     while (n < nWant && i + n < text.size() && (static_cast<unsigned char>(text[i + n]) & 0xC0) == 0x80) ++n;
@@ -106,22 +107,23 @@ std::size_t HalfWidthUnits(std::string_view text) {
 }
 
 // Real newlines go; the marks "\n", "\b" and "/b" become real newlines.
-std::string PrepareLineBreaks(const char* szText) {
-    std::string out;
-    for (const char* p = szText; *p; ++p)
-        if (*p != '\n') out += *p;
+std::string PrepareLineBreaks(std::string_view text) {
+    std::string stripped;
+    stripped.reserve(text.size());
+    for (std::size_t pos = 0; pos < text.size();) {
+        const std::size_t nl = std::min(text.find('\n', pos), text.size());
+        stripped.append(text, pos, nl - pos);
+        pos = nl + 1;
+    }
     std::string result;
-    result.reserve(out.size());
-    for (std::size_t i = 0; i < out.size(); ++i) {
-        const bool bMark =
-            i + 1 < out.size() && ((out[i] == '\\' && (out[i + 1] == 'n' || out[i + 1] == 'b')) ||
-                                   (out[i] == '/' && out[i + 1] == 'b'));
-        if (bMark) {
-            result += '\n';
-            ++i;
-        } else {
-            result += out[i];
-        }
+    result.reserve(stripped.size());
+    const std::size_t n = stripped.size();
+    for (std::size_t i = 0; i < n; ++i) {
+        const char c = stripped[i];
+        const bool bMark = i + 1 < n && ((c == '\\' && (stripped[i + 1] == 'n' || stripped[i + 1] == 'b')) ||
+                                         (c == '/' && stripped[i + 1] == 'b'));
+        result.push_back(bMark ? '\n' : c);
+        i += bMark ? 1 : 0;
     }
     return result;
 }
@@ -237,8 +239,8 @@ void CSimAutoText::Layout(std::string_view text, bool bWrap, bool bTags) {
                     if (current || i > 0) nLineWidth += closeRun(i);
                     attr = next;
                     if (attr.nFontSize > nLineMax) {
-                        for (SAutoTextRun& run : m_vecRuns)
-                            if (run.nLine == nLine) run.nOffsetY += attr.nFontSize - nLineMax;
+                        for (auto it = m_vecRuns.rbegin(); it != m_vecRuns.rend() && it->nLine == nLine; ++it)
+                            it->nOffsetY += attr.nFontSize - nLineMax;
                         nLineMax = attr.nFontSize;
                     }
                     openRun(attr, nLineWidth, nLineMax - attr.nFontSize);

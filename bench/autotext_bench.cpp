@@ -1,0 +1,48 @@
+// Auto-text layout of a 2 KB tagged text (laid out every frame by multi-line statics), and layout plus
+// drawing.
+#include <benchmark/benchmark.h>
+
+#include <string>
+
+#include "controls/SimAutoText.h"
+#include "hostlibs/HostCanvas.h"
+
+namespace {
+
+std::string TaggedText(std::size_t nBytes) {
+    const std::string piece = "Welcome to the </#R>new</D> server: </S18>events</S> every </u>weekend</D>, "
+                              "</F>double</D> rewards.\\n";
+    std::string text;
+    while (text.size() < nBytes) text += piece;
+    text.resize(nBytes);
+    return text;
+}
+
+void BM_AutoTextLayout2K(benchmark::State& state) {
+    const std::string text = TaggedText(2048);
+    CSimAutoText layout;
+    layout.SetWidth(400);
+    for (auto _ : state) {
+        layout.SetText(text.c_str(), true, true);
+        benchmark::DoNotOptimize(layout.GetLineCount());
+    }
+    state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) * 2048);
+}
+BENCHMARK(BM_AutoTextLayout2K);
+
+void BM_AutoTextLayoutAndDrawRecording2K(benchmark::State& state) {
+    host::UseCanvas(host::CanvasKind::Recording);
+    const std::string text = TaggedText(2048);
+    CSimAutoText layout;
+    layout.SetWidth(400);
+    for (auto _ : state) {
+        host::BeginFrame();
+        layout.SetText(text.c_str(), true, true);
+        layout.ShowAt(10, 10);
+    }
+}
+BENCHMARK(BM_AutoTextLayoutAndDrawRecording2K);
+
+} // namespace
+
+BENCHMARK_MAIN();
