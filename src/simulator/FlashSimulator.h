@@ -176,6 +176,8 @@ public:
     int GetMainPathWidth() const { return m_nMainPathWidth; }
     int GetMainPathHeight() const { return m_nMainPathHeight; }
     CDlgFlashConfirm& GetConfirmDialog() { return m_dlgConfirm; }
+    CDlgFlashBack& GetBackDialog() { return m_dlgBack; }
+    CDlgFlashBG& GetBackdropDialog() { return m_dlgBG; }
     CDlgNewFlashLogin& GetNewFlashLoginDialog() { return m_dlgNewFlashLogin; }
     /// Switches the login music on or off (the track restarts when switched on).
     void SetMusic(bool bOn);
