@@ -22,6 +22,7 @@ using detail::Env;
 void SetClientDir(const std::string& dir) {
     std::lock_guard lock(Env().mutex);
     Env().clientDir = dir;
+    ++Env().clientDirVersion;
 }
 
 void AdvanceClock(DWORD ms) {
@@ -79,7 +80,7 @@ void ResetForTest() {
         Env().screenWidth = 1024;
         Env().screenHeight = 768;
         Env().data.clear();
-        Env().cursor = POINT{0, 0};
+        Env().cursor = 0;
         std::fill(std::begin(Env().keysDown), std::end(Env().keysDown), std::uint8_t{0});
     }
     Env().clockMs = detail::Environment::kStartClockMs;

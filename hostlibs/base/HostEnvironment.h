@@ -14,12 +14,14 @@ namespace host::detail {
 struct Environment {
     std::mutex mutex; // the player-list worker reads the directory and data from its own thread
     std::string clientDir;
+    std::atomic<unsigned> clientDirVersion{0}; ///< changes with every SetClientDir, for caches keyed by it
     std::atomic<DWORD> clockMs{kStartClockMs};
     SLocalTime localTime{kStartTime};
     int screenWidth = 1024;
     int screenHeight = 768;
     std::map<std::string, std::string> data;
-    POINT cursor{0, 0};
+    std::atomic<std::uint64_t> cursor{
+        0}; ///< x in the low 32 bits, y in the high ones: read by every control each frame
     std::uint8_t keysDown[256] = {}; // one flag per virtual key
 
     static constexpr DWORD kStartClockMs = 100000;

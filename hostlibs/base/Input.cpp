@@ -6,8 +6,8 @@
 namespace host {
 
 void SetCursor(int x, int y) {
-    std::lock_guard lock(detail::Env().mutex);
-    detail::Env().cursor = POINT{x, y};
+    detail::Env().cursor =
+        (static_cast<std::uint64_t>(static_cast<std::uint32_t>(y)) << 32) | static_cast<std::uint32_t>(x);
 }
 
 void SetKeyDown(int nVirtKey, bool bDown) {
@@ -20,8 +20,9 @@ void SetKeyDown(int nVirtKey, bool bDown) {
 
 BOOL GetCursorPos(POINT* pPoint) {
     if (!pPoint) return FALSE;
-    std::lock_guard lock(host::detail::Env().mutex);
-    *pPoint = host::detail::Env().cursor;
+    const std::uint64_t packed = host::detail::Env().cursor;
+    *pPoint = POINT{static_cast<LONG>(static_cast<std::uint32_t>(packed)),
+                    static_cast<LONG>(static_cast<std::uint32_t>(packed >> 32))};
     return TRUE;
 }
 

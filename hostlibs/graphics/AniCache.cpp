@@ -1,6 +1,8 @@
 // Caching of animation data so that the per-frame lookups of every widget cost a map search, not a file read.
 #include "AniCache.h"
 
+#include "base/HostEnvironment.h"
+
 #include <algorithm>
 #include <fstream>
 #include <sstream>
@@ -73,6 +75,25 @@ std::shared_ptr<const Image> AniCache::Picture(std::string_view path) {
 
 AniHandle* AniCache::Animation(std::string_view file, std::string_view title) {
     if (file.empty() || title.empty()) return nullptr;
+    std::string request;
+    request.reserve(file.size() + title.size() + 1);
+    request.append(file).append(1, '\n').append(title);
+    const unsigned nDirVersion = host::detail::Env().clientDirVersion;
+    {
+        std::lock_guard lock(m_mutex);
+        if (nDirVersion != m_nRequestDirVersion) {
+            m_byRequest.clear();
+            m_nRequestDirVersion = nDirVersion;
+        }
+        if (auto it = m_byRequest.find(request); it != m_byRequest.end()) return it->second;
+    }
+    AniHandle* pHandle = Resolve(file, title);
+    std::lock_guard lock(m_mutex);
+    m_byRequest.emplace(std::move(request), pHandle);
+    return pHandle;
+}
+
+AniHandle* AniCache::Resolve(std::string_view file, std::string_view title) {
     const std::string key = Key(file) + '\n' + LowerAscii(title);
     {
         std::lock_guard lock(m_mutex);
@@ -89,6 +110,7 @@ AniHandle* AniCache::Animation(std::string_view file, std::string_view title) {
 
 void AniCache::Clear() {
     std::lock_guard lock(m_mutex);
+    m_byRequest.clear();
     m_animations.clear();
     m_indexes.clear();
     m_pictures.clear();

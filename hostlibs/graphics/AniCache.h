@@ -6,6 +6,7 @@
 #include <mutex>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 
 #include "AniIndex.h"
 #include "Canvas.h"
@@ -33,12 +34,18 @@ public:
 private:
     AniCache() = default;
     static std::string Key(std::string_view name);
+    /// The animation by its normalised file and title (the cache's own key).
+    AniHandle* Resolve(std::string_view file, std::string_view title);
     std::shared_ptr<const AniIndex> LoadIndex(std::string_view file);
 
     std::mutex m_mutex;
     std::map<std::string, std::shared_ptr<const AniIndex>> m_indexes;
     std::map<std::string, std::shared_ptr<const Image>> m_pictures;
     std::map<std::string, std::unique_ptr<AniHandle>> m_animations;
+    /// Animations by the exact file and title the caller gave (null when there is none): the per-frame path,
+    /// valid for one client directory.
+    std::unordered_map<std::string, AniHandle*> m_byRequest;
+    unsigned m_nRequestDirVersion = 0;
 };
 
 } // namespace gfx
