@@ -102,3 +102,6 @@ int MyGetPrivateProfileInt(const char* szSection, const char* szKey, int nDefaul
     if (!Lookup(szSection, szKey, szFile, value)) return nDefault;
     return SafeAtoi(value.c_str());
 }
+
+const char* const g_pszIniServerState = "ini/ServerState.ini";
+const char* const g_pszIniGameSetup = "ini/GameSetup.ini";

@@ -17,7 +17,6 @@ namespace {
 
 constexpr const char* DEFAULT_LAYOUT_FILE = "FlashGui.ini";
 constexpr DWORD TIP_BACK_COLOUR = 0xC0000000;
-constexpr DWORD TOOL_TIP_COLOUR = 0xFFFFFFFF;
 constexpr int TIP_PADDING = 3;
 
 CGuiMgr* g_pCurrent = nullptr;
@@ -127,7 +126,7 @@ void CGuiMgr::ShowHoverTip() {
     CLuCtrl* pCtrl = pDialog ? pDialog->ControlAt(pt) : nullptr;
     if (!pCtrl || !*pCtrl->GetTipText()) return;
     const RECT rc = pCtrl->GetWindowRect();
-    ShowTip(pCtrl->GetTipText(), rc.left, rc.bottom + TIP_PADDING, TOOL_TIP_COLOUR);
+    ShowTip(pCtrl->GetTipText(), rc.left, rc.bottom + TIP_PADDING, pCtrl->GetTipColor());
 }
 
 void CGuiMgr::DrawTips() {

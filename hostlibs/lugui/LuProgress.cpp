@@ -9,9 +9,12 @@
 
 namespace LuGui {
 
-void CLuProgress::PreSetParam(int nMin, int nMax, int nPos) {
+void CLuProgress::PreSetParam(int nMin, int nMax, int nStep, int nPos, const char* szFillAni, int,
+                              const void*) {
     m_nMin = nMin;
     m_nMax = nMax;
+    m_nStep = nStep;
+    m_strFillAni = szFillAni ? szFillAni : "";
     SetPos(nPos);
 }
 
@@ -33,7 +36,9 @@ int CLuProgress::Show() {
     const RECT rc = GetWindowRect();
     const RECT rcFilled{rc.left, rc.top, rc.left + GetFilledWidth(), rc.bottom};
     if (rcFilled.right > rcFilled.left) {
-        if (BackGroundFrameCount(*this) > 1)
+        if (!m_strFillAni.empty())
+            CGameGraphic::ShowAniRect(m_strBgAniFile.c_str(), m_strFillAni.c_str(), 0, rcFilled);
+        else if (BackGroundFrameCount(*this) > 1)
             CGameGraphic::ShowAniRect(m_strBgAniFile.c_str(), m_strBgAni.c_str(), 1, rcFilled);
         else
             CMyBitmap::ShowBlock(rcFilled, m_dwFontColor);

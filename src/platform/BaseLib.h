@@ -102,6 +102,10 @@ HOSTLIB_API BOOL CloseHandle(HANDLE hHandle);
 /// without regard to case; blanks around keys and values are trimmed. Returns the number of bytes copied.
 HOSTLIB_API DWORD MyGetPrivateProfileString(const char* szSection, const char* szKey, const char* szDefault,
                                             char* szBuf, DWORD nSize, const char* szFile);
+/// The client's server-state INI file (web addresses, field placeholders, edition descriptions) and
+/// game-setup INI file (the last login), relative to the client directory.
+extern HOSTLIB_API const char* const g_pszIniServerState;
+extern HOSTLIB_API const char* const g_pszIniGameSetup;
 /// Reads a key as a decimal integer (SafeAtoi); nDefault when it is missing.
 HOSTLIB_API int MyGetPrivateProfileInt(const char* szSection, const char* szKey, int nDefault,
                                        const char* szFile);

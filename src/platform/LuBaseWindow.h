@@ -142,7 +142,13 @@ public:
     std::intptr_t GetExtData() const { return m_nExtData; }
     /// A tool tip the manager shows while the cursor rests on the window; empty for none.
     void SetTipText(const char* szTip) { m_strTip = szTip ? szTip : ""; }
+    /// The tool tip and its colour.
+    void SetTipShow(const char* szTip, DWORD dwColor) {
+        SetTipText(szTip);
+        m_dwTipColor = dwColor;
+    }
     const char* GetTipText() const { return m_strTip.c_str(); }
+    DWORD GetTipColor() const { return m_dwTipColor; }
 
     // ---- toolkit internals (the dialog manager and dialogs call these) ----------------------------
 
@@ -187,6 +193,7 @@ protected:
     int m_nCurFrame = 0;
     std::intptr_t m_nExtData = 0;
     std::string m_strTip;
+    DWORD m_dwTipColor = 0xFFFFFFFF;
 };
 
 } // namespace LuGui

@@ -1,6 +1,8 @@
 // The widget toolkit's progress bar: a range, a value, and the filled part drawn over the background.
 #pragma once
 
+#include <string>
+
 #include "LuCtrl.h"
 
 namespace LuGui {
@@ -13,8 +15,10 @@ public:
     ~CLuProgress() override = default;
 
     ELuCtrlKind GetKind() const override { return ELuCtrlKind::Progress; }
-    /// Range and start value; a maximum not above the minimum makes the bar empty.
-    void PreSetParam(int nMin, int nMax, int nPos = 0);
+    /// Range, step, start value and the picture of the filled part (null: frame 1 of the background); a
+    /// maximum not above the minimum makes the bar empty. The last two values are the client's, unused here.
+    void PreSetParam(int nMin, int nMax, int nStep = 1, int nPos = 0, const char* szFillAni = nullptr,
+                     int nReserved = 0, const void* pReserved = nullptr);
     /// The value, clamped to the range.
     void SetPos(int nPos);
     int GetPos() const { return m_nPos; }
@@ -26,6 +30,8 @@ public:
     int Show() override;
 
 private:
+    std::string m_strFillAni;
+    int m_nStep = 1;
     int m_nMin = 0;
     int m_nMax = 100;
     int m_nPos = 0;

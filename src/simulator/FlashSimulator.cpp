@@ -176,7 +176,8 @@ void CFlashSimulator::Process() {
     g_nDumpStep = DUMP_PROCESS_BEGIN;
     if (m_pGuiMgr) m_pGuiMgr->Process();
     g_nDumpStep = DUMP_PROCESS_TIPS;
-    // NOTE: the group and server dialogs' hover tips run here once those screens exist (docs/STATUS.md).
+    m_dlgSelectGroup.ShowMarkTips();
+    m_dlgSelectServer.ShowMarkTips();
     g_nDumpStep = DUMP_PROCESS_SOUND;
     if (m_bMusicOn) ProcressSound();
     g_nDumpStep = DUMP_PROCESS_END;

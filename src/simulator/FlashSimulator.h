@@ -177,6 +177,8 @@ public:
     int GetMainPathHeight() const { return m_nMainPathHeight; }
     CDlgFlashConfirm& GetConfirmDialog() { return m_dlgConfirm; }
     CDlgFlashBack& GetBackDialog() { return m_dlgBack; }
+    CDlgSelectGroup& GetGroupDialog() { return m_dlgSelectGroup; }
+    CDlgSelectServer& GetServerDialog() { return m_dlgSelectServer; }
     CDlgFlashBG& GetBackdropDialog() { return m_dlgBG; }
     CDlgNewFlashLogin& GetNewFlashLoginDialog() { return m_dlgNewFlashLogin; }
     /// Switches the login music on or off (the track restarts when switched on).

@@ -47,8 +47,7 @@ void CFlashSimulator::VarServerArea(const char* szValue) {
         m_vecServerGroup.push_back(std::move(group));
     }
     m_nFillGroup = 0;
-    // NOTE: group-first languages refill the visible group dialog here once that screen exists
-    // (docs/STATUS.md).
+    if (IsGroupFirstLanguage() && m_dlgSelectGroup.IsWindowVisible()) m_dlgSelectGroup.RefillGroups();
 }
 
 void CFlashSimulator::VarServerName(const char* szValue) {
@@ -96,7 +95,7 @@ void CFlashSimulator::VarAreaAchTips(const char* szValue) {
     values.push_back(SafeAtoi(std::string(rest).c_str()));
     if (values.empty() || values.size() != m_vecServerGroup.size()) return;
     for (std::size_t i = 0; i < values.size(); ++i) m_vecServerGroup[i].bAchTips = values[i] > 0;
-    // NOTE: group-first languages refresh the visible group dialog's tips here once that screen exists.
+    if (IsGroupFirstLanguage() && m_dlgSelectGroup.IsWindowVisible()) m_dlgSelectGroup.RefreshGroupMarks();
 }
 
 void CFlashSimulator::VarCurVer(const char* szValue) {

@@ -330,7 +330,9 @@ void CFlashSimulator::VarSetRegisterOpen(const char*) {
 
 void CFlashSimulator::VarVersion(const char* szValue) {
     m_strVersion = szValue;
-    // NOTE: the visible edition, group, server and login dialogs show the new text once they exist.
+    if (m_dlgSelectGroup.IsWindowVisible()) m_dlgSelectGroup.SetVersionText(szValue);
+    if (m_dlgSelectServer.IsWindowVisible()) m_dlgSelectServer.SetVersionText(szValue);
+    // NOTE: the visible edition and login dialogs show the new text once those screens exist.
 }
 
 void CFlashSimulator::VarSetRecAccount(const char* szValue) {
@@ -349,7 +351,9 @@ const char* CFlashSimulator::GetRecAccount(int nIndex) const {
 
 void CFlashSimulator::VarMusic(const char* szValue) {
     SetMusic(!EqualsNoCase(szValue, "0"));
-    // NOTE: the visible login-scene dialogs set their music check buttons once they exist.
+    if (m_dlgSelectGroup.IsWindowVisible()) m_dlgSelectGroup.SetMusicCheck(m_bMusicOn);
+    if (m_dlgSelectServer.IsWindowVisible()) m_dlgSelectServer.SetMusicCheck(m_bMusicOn);
+    // NOTE: the edition and login dialogs set their music check buttons once those screens exist.
 }
 
 void CFlashSimulator::VarMusicSwitch(const char* szValue) {
