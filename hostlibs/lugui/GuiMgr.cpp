@@ -78,7 +78,8 @@ bool CGuiMgr::RegisterDialog(CLuDialog* pDialog, int, int) {
     CDataExchange dx(pDialog);
     pDialog->DoDataExchange(&dx);
     pDialog->MessageMap();
-    pDialog->OnInitDialog();
+    // NOTE: OnInitDialog runs when the dialog is shown, not here: dialogs start hidden, and their
+    // initialisation reads live state and talks to the host, which cannot answer before Create returns.
     return true;
 }
 

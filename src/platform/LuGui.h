@@ -26,7 +26,8 @@ public:
     virtual void Release() = 0;
     virtual void SetSoundCallBack(PFN_SoundCallBack pfn) = 0;
     /// Creates the dialog's window from its template (the dialog object stays the caller's): PreSetParam,
-    /// PreInitData, DoDataExchange, MessageMap, OnInitDialog. A dialog registered again is created again.
+    /// PreInitData, DoDataExchange, MessageMap; OnInitDialog follows each time the dialog is shown. A dialog
+    /// registered again is created again.
     virtual bool RegisterDialog(CLuDialog* pDialog, int nReserved1, int nReserved2) = 0;
     /// First per-frame operation: activation of dialogs that opened inactive, hover tips.
     virtual void Process() = 0;

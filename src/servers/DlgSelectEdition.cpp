@@ -1,7 +1,148 @@
-// The edition screen: five editions and up to three quick-entry records.
+// The edition screen: five editions with descriptions and up to three quick-entry records.
 #include "servers/DlgSelectEdition.h"
+
+#include <algorithm>
+#include <string>
+
+#include "resources/MyString.h"
+#include "simulator/FlashSimulator.h"
+
+namespace {
+constexpr int MAX_TIP_TEXT = 1024;
+}
 
 CDlgSelectEdition::CDlgSelectEdition() : CSimDialog(IDD) {
 }
 
 CDlgSelectEdition::~CDlgSelectEdition() = default;
+
+// ---- controls ------------------------------------------------------------------------------------
+
+void CDlgSelectEdition::DoDataExchange(LuGui::CDataExchange* pDX) {
+    CSimDialog::DoDataExchange(pDX);
+    for (int i = 0; i < EDITION_COUNT; ++i) {
+        LuGui::DDX_Control(pDX, static_cast<int>(IDC_EDITION_FIRST) + i, m_btnEdition[i]);
+        LuGui::DDX_Control(pDX, static_cast<int>(IDC_EDITION_TIPS[i]), m_staEditionTip[i]);
+    }
+    for (int k = 0; k < MAX_QUICK_ENTRY_AMOUNT; ++k) {
+        LuGui::DDX_Control(pDX, static_cast<int>(IDC_RECORDS[k]), m_btnRecord[k]);
+        LuGui::DDX_Control(pDX, static_cast<int>(IDC_DELETE_RECORDS[k]), m_btnDeleteRecord[k]);
+    }
+    LuGui::DDX_Control(pDX, IDC_VERSION, m_staVersion);
+    LuGui::DDX_Control(pDX, IDC_BACK, m_btnBack);
+    LuGui::DDX_Control(pDX, IDC_EXIT, m_btnExit);
+    LuGui::DDX_Control(pDX, IDC_SOUND, m_chkSound);
+    LuGui::DDX_Control(pDX, IDC_EDITION_BG, m_staEditionBg);
+    LuGui::DDX_Control(pDX, IDC_BOTTOM1, m_staBottom1);
+    LuGui::DDX_Control(pDX, IDC_BOTTOM2, m_staBottom2);
+    LuGui::DDX_Control(pDX, IDC_LOGO, m_staLogo);
+}
+
+void CDlgSelectEdition::MessageMap() {
+    CSimDialog::MessageMap();
+    for (int i = 0; i < EDITION_COUNT; ++i)
+        PushMsgMap(WM_COMMAND, IDC_EDITION_FIRST + static_cast<UINT>(i),
+                   MsgHandler([this, i] { OnEdition(i); }));
+    for (int k = 0; k < MAX_QUICK_ENTRY_AMOUNT; ++k) {
+        PushMsgMap(WM_COMMAND, IDC_RECORDS[k], MsgHandler([this, k] { OnRecord(k); }));
+        PushMsgMap(WM_COMMAND, IDC_DELETE_RECORDS[k], MsgHandler([this, k] { OnDeleteRecord(k); }));
+    }
+    PushMsgMap(WM_COMMAND, IDC_SOUND, &CDlgSelectEdition::OnSound);
+    PushMsgMap(WM_COMMAND, IDC_BACK, &CDlgSelectEdition::OnBack);
+    PushMsgMap(WM_COMMAND, IDC_EXIT, &CDlgSelectEdition::OnExit);
+}
+
+BOOL CDlgSelectEdition::OnInitDialog() {
+    CSimDialog::OnInitDialog();
+    CFlashSimulator* pSim = FlashSim();
+    if (!pSim) return TRUE;
+    for (int i = 0; i < EDITION_COUNT; ++i) {
+        char szTip[MAX_TIP_TEXT] = {};
+        MyGetPrivateProfileString("VerTip", FindEdition(i + 1)->szTipKey, "", szTip, sizeof szTip,
+                                  g_pszIniServerState);
+        m_staEditionTip[i].SetWindowTextA(szTip);
+    }
+    SetVersionText(pSim->GetVersion());
+    m_chkSound.SetChecked(pSim->IsMusicOn());
+    pSim->NotifyHost("GET_QUCIK_RECORD", "");
+    RefreshRecordButtons();
+    if (IsOpenInactive()) EnableButtons(false);
+    return TRUE;
+}
+
+LRESULT CDlgSelectEdition::WindowProc(UINT uMsg, WPARAM wParam, LPARAM lParam) {
+    if (uMsg == LuGui::LU_MSG_ACTIVATE) EnableButtons(true);
+    return CSimDialog::WindowProc(uMsg, wParam, lParam);
+}
+
+// ---- handlers ------------------------------------------------------------------------------------
+
+void CDlgSelectEdition::OnEdition(int nIndex) {
+    if (CFlashSimulator* pSim = FlashSim()) pSim->OnSelectModel(nIndex + 1);
+}
+
+void CDlgSelectEdition::OnRecord(int nSlot) {
+    CFlashSimulator* pSim = FlashSim();
+    const SQuickEntry* pEntry = pSim ? pSim->GetQuickEntry(nSlot) : nullptr;
+    if (pEntry) pSim->QuickSelect(pEntry->nModel, pEntry->nGroup - 1, pEntry->nServer - 1);
+}
+
+void CDlgSelectEdition::OnDeleteRecord(int nSlot) {
+    CFlashSimulator* pSim = FlashSim();
+    if (!pSim) return;
+    pSim->DeleteQuickEntry(nSlot);
+    RefreshRecordButtons();
+}
+
+void CDlgSelectEdition::OnSound() {
+    CFlashSimulator* pSim = FlashSim();
+    if (!pSim) return;
+    pSim->SetMusic(m_chkSound.GetCheckValue());
+    pSim->NotifyHost("SET_MUSIC", pSim->IsMusicOn() ? "1" : "0");
+}
+
+void CDlgSelectEdition::OnBack() {
+    if (CFlashSimulator* pSim = FlashSim()) pSim->OnReturn();
+}
+
+void CDlgSelectEdition::OnExit() {
+    if (CFlashSimulator* pSim = FlashSim())
+        pSim->GetConfirmDialog().Show(CDlgFlashConfirm::TYPE_EXIT, nullptr);
+}
+
+// ---- records -------------------------------------------------------------------------------------
+
+void CDlgSelectEdition::RefreshRecordButtons() {
+    CFlashSimulator* pSim = FlashSim();
+    if (!pSim) return;
+    const int nRecords = std::min(pSim->GetQuickEntryCount(), MAX_QUICK_ENTRY_AMOUNT);
+    for (int k = 0; k < nRecords; ++k) {
+        const SQuickEntry* pEntry = pSim->GetQuickEntry(k);
+        if (const SEditionInfo* pEdition = FindEdition(pEntry->nModel))
+            m_btnRecord[k].SetSubGround(pEdition->szEntryPicture);
+        const std::string text = std::string(pEntry->strGroupName.c_str()) + pEntry->strServerName.c_str();
+        m_btnRecord[k].SetWindowTextA(text.c_str());
+        m_btnRecord[k].SetFontColor(RECORD_COLOUR);
+        m_btnDeleteRecord[k].ShowWindow(SW_SHOW);
+    }
+    for (int k = nRecords; k < MAX_QUICK_ENTRY_AMOUNT; ++k) {
+        m_btnRecord[k].SetSubGround(EMPTY_ENTRY_PICTURE);
+        m_btnRecord[k].SetWindowTextA(pSim->GetStr(STR_EMPTY_RECORD));
+        m_btnRecord[k].SetFontColor(EMPTY_RECORD_COLOUR);
+        m_btnDeleteRecord[k].ShowWindow(SW_HIDE);
+    }
+}
+
+void CDlgSelectEdition::SetVersionText(const char* szVersion) {
+    CFlashSimulator* pSim = FlashSim();
+    if (!szVersion || !pSim) return;
+    m_staVersion.SetWindowTextA(CMyString::Format(pSim->GetStr(STR_VERSION_FORMAT), szVersion).c_str());
+}
+
+void CDlgSelectEdition::EnableButtons(bool bEnable) {
+    const BOOL b = bEnable ? TRUE : FALSE;
+    for (CSimButton& button : m_btnEdition) button.EnableWindow(b);
+    for (CSimButton& button : m_btnRecord) button.EnableWindow(b);
+    m_btnBack.EnableWindow(b);
+    m_btnExit.EnableWindow(b);
+}

@@ -177,6 +177,8 @@ public:
     int GetMainPathHeight() const { return m_nMainPathHeight; }
     CDlgFlashConfirm& GetConfirmDialog() { return m_dlgConfirm; }
     CDlgFlashBack& GetBackDialog() { return m_dlgBack; }
+    CDlgSelectEdition& GetEditionDialog() { return m_dlgSelectEdition; }
+    CDlgAddQuickEntry& GetAddQuickEntryDialog() { return m_dlgAddQuickEntry; }
     CDlgSelectGroup& GetGroupDialog() { return m_dlgSelectGroup; }
     CDlgSelectServer& GetServerDialog() { return m_dlgSelectServer; }
     CDlgFlashBG& GetBackdropDialog() { return m_dlgBG; }

@@ -330,9 +330,10 @@ void CFlashSimulator::VarSetRegisterOpen(const char*) {
 
 void CFlashSimulator::VarVersion(const char* szValue) {
     m_strVersion = szValue;
+    if (m_dlgSelectEdition.IsWindowVisible()) m_dlgSelectEdition.SetVersionText(szValue);
     if (m_dlgSelectGroup.IsWindowVisible()) m_dlgSelectGroup.SetVersionText(szValue);
     if (m_dlgSelectServer.IsWindowVisible()) m_dlgSelectServer.SetVersionText(szValue);
-    // NOTE: the visible edition and login dialogs show the new text once those screens exist.
+    // NOTE: the visible login dialogs show the new text once those screens exist.
 }
 
 void CFlashSimulator::VarSetRecAccount(const char* szValue) {
@@ -351,9 +352,10 @@ const char* CFlashSimulator::GetRecAccount(int nIndex) const {
 
 void CFlashSimulator::VarMusic(const char* szValue) {
     SetMusic(!EqualsNoCase(szValue, "0"));
+    if (m_dlgSelectEdition.IsWindowVisible()) m_dlgSelectEdition.SetMusicCheck(m_bMusicOn);
     if (m_dlgSelectGroup.IsWindowVisible()) m_dlgSelectGroup.SetMusicCheck(m_bMusicOn);
     if (m_dlgSelectServer.IsWindowVisible()) m_dlgSelectServer.SetMusicCheck(m_bMusicOn);
-    // NOTE: the edition and login dialogs set their music check buttons once those screens exist.
+    // NOTE: the login dialogs set their music check buttons once those screens exist.
 }
 
 void CFlashSimulator::VarMusicSwitch(const char* szValue) {

@@ -99,6 +99,7 @@ TEST_F(Variables, ReturnWalksTheChainBack) {
     EXPECT_EQ(m_sim->GetGroupCount(), 0) << "the group list waits for the host again";
     m_sim->OnReturn();
     EXPECT_EQ(m_sim->GetLoginStep(), 0);
+    EXPECT_EQ(TakeCommands(), CommandList{"GET_QUCIK_RECORD "}) << "the edition screen asks for the records";
     m_sim->OnReturn();
     EXPECT_EQ(TakeCommands(), CommandList{"CMD_RETURNLOGIN "});
 }
