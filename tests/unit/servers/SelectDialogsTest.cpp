@@ -129,14 +129,14 @@ TEST_F(SelectDialogsTest, VersionAndMusicFollowTheHostWhileVisible) {
 }
 
 TEST_F(SelectDialogsTest, ServersShowDisplayedLoadsWordsAndTips) {
-    Set("VAR_SERVERSTATUS", "1#1_546_1000_1|2_0_1000_0|");
+    Set("VAR_SERVERSTATUS", "1#1_646_1000_1|2_0_1000_0|");
     ClickWindow(Groups().GetGroupButton(0));
     EXPECT_EQ(TakeCommands(), (std::vector<std::string>{"BURYING_POINT 113", "CMD_SELECTGROUP 1"}));
-    const CSimProgress& bar = Servers().GetLoadBar(0); // 54.6 raw shows 69.6
+    const CSimProgress& bar = Servers().GetLoadBar(0); // 64.6 raw shows 74.6: still busy, rounded to 75
     EXPECT_EQ(bar.GetMax(), 1000);
-    EXPECT_EQ(bar.GetPos(), 696);
+    EXPECT_EQ(bar.GetPos(), 746);
     EXPECT_STREQ(bar.GetBackGroundAni(), "Server_Status_Busy");
-    EXPECT_STREQ(bar.GetTipText(), "Busy: 70%");
+    EXPECT_STREQ(bar.GetTipText(), "Busy: 75%");
     const CSimProgress& down = Servers().GetLoadBar(1);
     EXPECT_STREQ(down.GetBackGroundAni(), "Server_Status_Idle");
     EXPECT_STREQ(down.GetTipText(), "Maintenance!");
