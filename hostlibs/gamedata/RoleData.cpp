@@ -26,6 +26,7 @@ public:
         host::SetData("setting." + key, std::to_string(nValue));
         host::Journal("gamedata.setting", {{"key", key}, {"value", std::to_string(nValue)}});
     }
+    bool IsInputFlagSet() override { return host::GetDataInt("gamedata.inputflag", 0) != 0; }
 };
 
 class CRoleDataEx final : public IRoleDataEx {
@@ -36,9 +37,27 @@ public:
     }
     bool IsEnglishOnly() override { return host::GetDataInt("englishonly", 0) != 0; }
     const char* MapFontName(const char* szFont) override { return szFont ? szFont : ""; }
+    const char* GetStrRes(std::uint32_t nId) override {
+        m_strRes = host::GetData("strres." + std::to_string(nId));
+        return m_strRes.c_str();
+    }
+    bool IsNewServer(const char* szServerName) override {
+        if (!szServerName || !*szServerName) return false;
+        const std::string list = "|" + host::GetData("newservers") + "|";
+        return list.find("|" + std::string(szServerName) + "|") != std::string::npos;
+    }
+    void SetEmbeddedBrowser(bool bOn) override { m_bEmbeddedBrowser = bOn; }
+    bool IsEmbeddedBrowser() override { return m_bEmbeddedBrowser; }
 
 private:
     std::string m_strLanguage;
+    std::string m_strRes;
+    bool m_bEmbeddedBrowser = true;
+};
+
+class CMyGameDataEn final : public IMyGameDataEn {
+public:
+    int GetRegisterArg() override { return host::GetDataInt("gamedata.registerarg", 0); }
 };
 } // namespace
 
@@ -54,5 +73,10 @@ IRoleDataEn* RoleDataQueryEn() {
 
 IRoleDataEx* RoleDataQueryEx() {
     static CRoleDataEx data;
+    return &data;
+}
+
+IMyGameDataEn* MyGameDataEnQuery() {
+    static CMyGameDataEn data;
     return &data;
 }

@@ -50,6 +50,13 @@ bool CGuiMgr::Init(HINSTANCE, std::uint64_t hHost, std::uint32_t, const char* sz
 
 void CGuiMgr::Release() {
     host::Journal("gui.release");
+    // The dialogs are the caller's and outlive the manager: they must not keep pointing at it, nor at the
+    // layout records it owns.
+    for (CLuDialog* pDialog : m_vecDialogs) {
+        for (CLuCtrl* pCtrl : pDialog->GetControls())
+            pCtrl->Attach(nullptr, pDialog, pCtrl->GetDlgCtrlID(), nullptr);
+        pDialog->Attach(nullptr, nullptr, pDialog->GetTemplateId(), nullptr);
+    }
     delete this;
 }
 
@@ -124,7 +131,7 @@ void CGuiMgr::ShowHoverTip() {
     POINT pt{};
     GetCursorPos(&pt);
     CLuDialog* pDialog = DialogAt(pt);
-    CLuCtrl* pCtrl = pDialog ? pDialog->ControlAt(pt) : nullptr;
+    CLuCtrl* pCtrl = pDialog ? pDialog->ControlAt(pt, true) : nullptr;
     if (!pCtrl || !*pCtrl->GetTipText()) return;
     const RECT rc = pCtrl->GetWindowRect();
     ShowTip(pCtrl->GetTipText(), rc.left, rc.bottom + TIP_PADDING, pCtrl->GetTipColor());
@@ -183,7 +190,7 @@ CLuDialog* CGuiMgr::DialogAt(POINT pt) const {
     for (auto it = order.rbegin(); it != order.rend(); ++it) {
         CLuDialog* pDialog = *it;
         if (!pDialog->IsWindowVisible() || !pDialog->IsWindowEnabled() || pDialog->IsHideState()) continue;
-        if (pDialog->HitTest(pt) || pDialog->ControlAt(pt)) return pDialog;
+        if (pDialog->HitTest(pt) || pDialog->ControlAt(pt, true)) return pDialog;
     }
     return nullptr;
 }

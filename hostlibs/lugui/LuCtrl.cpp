@@ -71,9 +71,9 @@ void CLuCtrl::ShowMutiText() {
 void CLuCtrl::AdjustFrame() {
 }
 
-LRESULT CLuCtrl::NotifyParent(UINT uMsg, LPARAM lParam) {
+LRESULT CLuCtrl::NotifyParent(UINT uMsg, LPARAM lParam, WORD wCode) {
     IMyMsgCallBack* pCallBack = m_pParent;
-    return pCallBack ? pCallBack->OnCtrlMsg(uMsg, m_nId, lParam) : 0;
+    return pCallBack ? pCallBack->OnCtrlMsg(uMsg, MAKEWPARAM(static_cast<int>(m_nId), wCode), lParam) : 0;
 }
 
 LRESULT CLuCtrl::WindowProc(UINT uMsg, WPARAM wParam, LPARAM lParam) {

@@ -154,12 +154,12 @@ CLuCtrl* CLuDialog::GetControl(UINT nId) const {
     return nullptr;
 }
 
-CLuCtrl* CLuDialog::ControlAt(POINT pt) const {
+CLuCtrl* CLuDialog::ControlAt(POINT pt, bool bAnyControl) const {
     // The control bound last is drawn last, so it is the top-most.
     for (auto it = m_vecCtrls.rbegin(); it != m_vecCtrls.rend(); ++it) {
         CLuCtrl* pCtrl = *it;
-        if (pCtrl->IsWindowVisible() && !pCtrl->IsHideState() && pCtrl->IsWindowEnabled() &&
-            pCtrl->HitTest(pt))
+        if ((bAnyControl || pCtrl->IsHitTarget()) && pCtrl->IsWindowVisible() && !pCtrl->IsHideState() &&
+            pCtrl->IsWindowEnabled() && pCtrl->HitTest(pt))
             return pCtrl;
     }
     return nullptr;

@@ -11,7 +11,6 @@
 namespace LuGui {
 namespace {
 
-constexpr int TEXT_MARGIN_X = 2;
 constexpr DWORD CARET_BLINK_MS = 500;
 constexpr DWORD SELECTION_COLOUR = 0x803399FF;
 constexpr UINT CHAR_BACKSPACE = 8;
@@ -71,8 +70,8 @@ int CLuEdit::Show() {
     ShowBackGround();
     const RECT rc = GetWindowRect();
     const int nFont = m_sizeFont.cy > 0 ? m_sizeFont.cy : CMyBitmap::GetFontSize();
-    const int x = rc.left + TEXT_MARGIN_X;
-    const int y = rc.top + std::max(0, (GetHeight() - nFont) / 2);
+    const int x = rc.left + m_ptTextOffset.x;
+    const int y = rc.top + m_ptTextOffset.y + std::max(0, (GetHeight() - nFont) / 2);
     const std::string shown = DisplayText();
     // Byte offsets map to the shown text one to one except for passwords, where each character is a star.
     auto widthTo = [&](int nByte) {
@@ -146,7 +145,10 @@ void CLuEdit::OnKeyDown(UINT nChar, UINT, UINT) {
         break;
     case VK_DELETE:
         if (m_bReadOnly || !m_bEnabled) return;
-        if (m_nSelStart == m_nSelEnd) m_nSelEnd = NextCharIndex(m_nSelEnd);
+        if (m_nSelStart == m_nSelEnd) {
+            if (m_nSelEnd == nLength) return; // nothing after the caret: no change to report
+            m_nSelEnd = NextCharIndex(m_nSelEnd);
+        }
         ReplaceSelection({});
         return;
     default:
@@ -223,7 +225,16 @@ BOOL CLuEdit::IsFocus() const {
 }
 
 void CLuEdit::SetFocus() {
-    if (m_pGuiMgr) m_pGuiMgr->SetFocusEdit(this);
+    if (!m_pGuiMgr) return;
+    const bool bHad = m_pGuiMgr->GetFocusEdit() == this;
+    m_pGuiMgr->SetFocusEdit(this);
+    if (!bHad) NotifyParent(WM_COMMAND, 0, EN_SETFOCUS);
+}
+
+void CLuEdit::PreSetParam(bool bMultiLine, int, DWORD dwTextColor, bool bReadOnly) {
+    m_nMultiLine = bMultiLine ? 1 : 0;
+    m_dwFontColor = dwTextColor;
+    m_bReadOnly = bReadOnly;
 }
 
 void CLuEdit::SetLimitText(int nLimit) {

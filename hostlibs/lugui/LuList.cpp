@@ -75,15 +75,22 @@ RECT CLuList::RowRect(int nRow) const {
 int CLuList::RowAt(POINT pt) const {
     if (!HitTest(pt)) return -1;
     const int nRow = (pt.y - GetWindowRect().top) / m_nRowHeight;
-    return nRow < GetCount() ? nRow : -1;
+    // A row cut by the bottom edge is not drawn, so it can be neither hovered nor clicked.
+    if (nRow >= GetCount() || RowRect(nRow).bottom > GetWindowRect().bottom) return -1;
+    return nRow;
 }
 
-bool CLuList::OnDeleteMark(int nRow, POINT pt) const {
-    if (m_ptDeleteMark.x < 0 || nRow < 0 || nRow >= GetCount()) return false;
+RECT CLuList::GetCloseRect(int nRow) const {
+    if (m_ptDeleteMark.x < 0 || nRow < 0 || nRow >= GetCount()) return RECT{0, 0, 0, 0};
     const RECT rcRow = RowRect(nRow);
     const int x = rcRow.left + m_ptDeleteMark.x;
     const int y = rcRow.top + m_ptDeleteMark.y;
-    return pt.x >= x && pt.x < x + DELETE_MARK_SIZE && pt.y >= y && pt.y < y + DELETE_MARK_SIZE;
+    return RECT{x, y, x + DELETE_MARK_SIZE, y + DELETE_MARK_SIZE};
+}
+
+bool CLuList::OnDeleteMark(int nRow, POINT pt) const {
+    const RECT rc = GetCloseRect(nRow);
+    return rc.right > rc.left && pt.x >= rc.left && pt.x < rc.right && pt.y >= rc.top && pt.y < rc.bottom;
 }
 
 int CLuList::Show() {

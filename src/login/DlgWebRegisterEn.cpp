@@ -5,3 +5,8 @@ CDlgWebRegisterEn::CDlgWebRegisterEn() : CSimDialog(IDD) {
 }
 
 CDlgWebRegisterEn::~CDlgWebRegisterEn() = default;
+
+void CDlgWebRegisterEn::OpenPage(const char* szUrl, int, int) {
+    m_strUrl = szUrl ? szUrl : "";
+    ShowWindow(SW_SHOW);
+}

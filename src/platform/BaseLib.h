@@ -51,6 +51,34 @@ HOSTLIB_API char* Safefgets(char* szBuf, int nSize, ZrFile* pFile);
 HOSTLIB_API void Safefclose(ZrFile* pFile);
 /// The client directory (the game's current directory), as GetCurrentDirectoryA gives it.
 HOSTLIB_API std::string GetClientDirectory();
+/// Whether a file or folder exists (an absolute path, or one relative to the client directory).
+HOSTLIB_API BOOL PathFileExistsA(const char* szPath);
+
+// ---- languages
+// ------------------------------------------------------------------------------------------------------
+
+/// One language the client offers.
+struct SLanguageInfo {
+    int nIndex;        ///< the client's language index
+    CZrString strName; ///< its own name, shown in lists
+};
+
+/// The client's languages and the current one (`g_objMultiLang`).
+class HOSTLIB_API CMultiLanguage {
+public:
+    /// The languages, in the client's order.
+    const std::vector<SLanguageInfo>& Infos();
+    /// Position of the current language in Infos (0 when unknown).
+    int GetCurIndex();
+    /// The entry at a position of Infos; null outside.
+    const SLanguageInfo* GetInfo(int nPos);
+    /// Makes a language current.
+    void SetInfo(const SLanguageInfo* pInfo);
+
+private:
+    std::vector<SLanguageInfo> m_vecInfos;
+};
+extern HOSTLIB_API CMultiLanguage g_objMultiLang;
 
 // ---- time
 // -----------------------------------------------------------------------------------------------------------

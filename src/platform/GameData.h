@@ -26,6 +26,8 @@ public:
     virtual int GetSetting(const char* szKey, int nFallback) = 0;
     /// Stores an integer setting.
     virtual void SetSetting(const char* szKey, int nValue) = 0;
+    /// The game data's input flag: while it is set, the host is told that no login field has the focus.
+    virtual bool IsInputFlagSet() = 0;
 
 protected:
     ~IRoleDataEn() = default;
@@ -41,8 +43,26 @@ public:
     virtual bool IsEnglishOnly() = 0;
     /// The font to draw with for a font name of the graphics library (the client maps it per language).
     virtual const char* MapFontName(const char* szFont) = 0;
+    /// Entry nId of the game data's string resources (web address formats, switches); empty when absent.
+    virtual const char* GetStrRes(std::uint32_t nId) = 0;
+    /// Whether the game data marks the server of that name as new.
+    virtual bool IsNewServer(const char* szServerName) = 0;
+    /// The switch that routes web pages to the embedded browser instead of the system's.
+    virtual void SetEmbeddedBrowser(bool bOn) = 0;
+    virtual bool IsEmbeddedBrowser() = 0;
 
 protected:
     ~IRoleDataEx() = default;
 };
 HOSTLIB_API IRoleDataEx* RoleDataQueryEx();
+
+/// The role library's game-data interface (`MyGameDataEnQuery`).
+class IMyGameDataEn {
+public:
+    /// The integer the account-creation address is formatted with.
+    virtual int GetRegisterArg() = 0;
+
+protected:
+    ~IMyGameDataEn() = default;
+};
+HOSTLIB_API IMyGameDataEn* MyGameDataEnQuery();

@@ -36,6 +36,9 @@ public:
     virtual void OnRButtonUp(UINT nFlags, POINT point);
     virtual void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags);
     virtual void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
+    /// Whether the mouse can land on the control (static texts and pictures let presses through to what lies
+    /// under them, as the window system's static controls do).
+    virtual bool IsHitTarget() const { return true; }
     /// Whether the control takes the keyboard focus when pressed.
     virtual bool WantsFocus() const { return false; }
     /// A left press and release inside the enabled control (buttons and check boxes send command 273).
@@ -48,8 +51,9 @@ protected:
     /// Per-frame work the toolkit does before drawing (effects and timers have nothing to do here).
     void ProcessEffect() {}
     void ProcessTimer() {}
-    /// Sends a notification to the control's dialog (nothing when the control is not bound).
-    LRESULT NotifyParent(UINT uMsg, LPARAM lParam);
+    /// Sends a notification to the control's dialog (nothing when the control is not bound); wParam carries
+    /// the control id and, in its high word, wCode.
+    LRESULT NotifyParent(UINT uMsg, LPARAM lParam, WORD wCode = 0);
 
     bool m_bPressed = false;
 };

@@ -93,8 +93,9 @@ public:
     void ClearForCreation();
     const std::vector<CLuCtrl*>& GetControls() const { return m_vecCtrls; }
     CLuCtrl* GetControl(UINT nId) const;
-    /// The top-most visible, enabled control at a screen point.
-    CLuCtrl* ControlAt(POINT ptScreen) const;
+    /// The top-most visible, enabled control at a screen point that takes presses (bAnyControl: any control,
+    /// for tool tips).
+    CLuCtrl* ControlAt(POINT ptScreen, bool bAnyControl = false) const;
     /// The control holding the left button, if any.
     CLuCtrl* GetCapture() const { return m_pCapture; }
     void ReleaseCapture() { m_pCapture = nullptr; }

@@ -40,8 +40,10 @@ public:
     void SetSel(int nStart, int nEnd);
     /// Whether this edit has the keyboard focus of its manager.
     BOOL IsFocus() const;
-    /// Gives this edit the keyboard focus.
+    /// Gives this edit the keyboard focus; an edit that did not have it tells its dialog (command 273 with
+    /// notification code EN_SETFOCUS in the high word).
     void SetFocus();
+    static constexpr WORD EN_SETFOCUS = 0x0100;
     /// Byte limit of the text (at least 1).
     void SetLimitText(int nLimit);
     int GetLimitText() const { return m_nLimitText; }
@@ -49,6 +51,14 @@ public:
     void SetPassword(bool bPassword) { m_bPassword = bPassword; }
     bool IsPassword() const { return m_bPassword; }
     void SetReadOnly(bool bReadOnly) { m_bReadOnly = bReadOnly; }
+    /// The client's edit set-up: multi-line flag, a reserved value, text colour, read-only flag.
+    void PreSetParam(bool bMultiLine, int nReserved, DWORD dwTextColor, bool bReadOnly);
+    /// Input-method (Chinese) input; kept for the client's input method, typed characters arrive either way.
+    void EnableChinese(bool bEnable) { m_bChinese = bEnable; }
+    bool IsChineseEnabled() const { return m_bChinese; }
+    /// The client's font format (kept) and where the text starts inside the edit.
+    void SetFontFormat(int nFormat) { m_nFontFormat = nFormat; }
+    void SetTextOffset(int x, int y) { m_ptTextOffset = POINT{x, y}; }
 
 protected:
     /// The text as drawn (stars for a password edit).
@@ -66,6 +76,9 @@ protected:
     bool m_bPassword = false;
     bool m_bReadOnly = false;
     UINT m_nHighSurrogate = 0;
+    bool m_bChinese = true;
+    int m_nFontFormat = 0;
+    POINT m_ptTextOffset{2, 0};
 };
 
 } // namespace LuGui

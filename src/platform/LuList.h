@@ -61,6 +61,10 @@ public:
     int RowAt(POINT ptScreen) const;
     /// Whether the screen point lies on row nRow's delete mark.
     bool OnDeleteMark(int nRow, POINT ptScreen) const;
+    /// Screen rectangle of row nRow's delete mark (empty when the list has no marks).
+    RECT GetCloseRect(int nRow) const;
+    /// Rows that fit in the list (no scrolling: the first visible row is 0).
+    int GetVisibleRowCount() const { return GetHeight() / m_nRowHeight; }
 
     int Show() override;
     void OnMouseMove(UINT nFlags, POINT point) override;

@@ -11,6 +11,7 @@ public:
     ~CLuStatic() override = default;
 
     ELuCtrlKind GetKind() const override { return ELuCtrlKind::Static; }
+    bool IsHitTarget() const override { return false; }
 };
 
 } // namespace LuGui

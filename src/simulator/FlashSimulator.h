@@ -155,6 +155,8 @@ public:
     void OnReturn();
     int GetModel() const { return m_nModel; }
     int GetCurGroup() const { return m_nGroup; }
+    /// Stores the current group without telling the host.
+    void StoreCurGroup(int nGroup) { m_nGroup = nGroup; }
     int GetCurServer() const { return m_nServer; }
     int GetLoginStep() const { return m_nLoginStep; }
 
@@ -178,6 +180,10 @@ public:
     CDlgFlashConfirm& GetConfirmDialog() { return m_dlgConfirm; }
     CDlgFlashBack& GetBackDialog() { return m_dlgBack; }
     CDlgSelectEdition& GetEditionDialog() { return m_dlgSelectEdition; }
+    CDlgWebRegisterEn& GetWebRegisterDialog() { return m_dlgWebRegister; }
+    CDlgScanCodeLoginEn& GetScanCodeDialog() { return m_dlgScanCodeLogin; }
+    CDlgFlashLoginEn& GetServerPickerDialog() { return m_dlgFlashLoginEn; }
+    CDlgWeiXinLogin& GetWeiXinDialog() { return m_dlgWeiXinLogin; }
     CDlgAddQuickEntry& GetAddQuickEntryDialog() { return m_dlgAddQuickEntry; }
     CDlgSelectGroup& GetGroupDialog() { return m_dlgSelectGroup; }
     CDlgSelectServer& GetServerDialog() { return m_dlgSelectServer; }
@@ -212,6 +218,11 @@ private:
     friend struct VariableTables;
 
     void VarMainPath(const char* szValue);
+    void VarLoginPass(const char* szValue);
+    void VarFocusToFlash(const char* szValue);
+    void VarPwdIncorrect(const char* szValue);
+    /// The field number VAR_FOCUS answers.
+    int FocusedInputField();
     void VarQuickLogin(const char* szValue);
     void VarPlayLogin(const char* szValue);
     void VarAreaAchTips(const char* szValue);

@@ -48,7 +48,7 @@ struct VariableTables {
         static const Table table = {
             {"var_mainpath", &CFlashSimulator::VarMainPath},
             {"var_quicklogin", &CFlashSimulator::VarQuickLogin},
-            {"var_focustoflash", &CFlashSimulator::VarDialogPending},
+            {"var_focustoflash", &CFlashSimulator::VarFocusToFlash},
             {"var_weixin_ward_safe_token", &CFlashSimulator::VarDialogPending},
             {"var_play_login_ward_safe_token", &CFlashSimulator::VarPlayLoginWardSafeToken},
             {"var_area_ach_tips", &CFlashSimulator::VarAreaAchTips},
@@ -58,7 +58,7 @@ struct VariableTables {
             {"var_sever_ach_tips", &CFlashSimulator::VarNoEffect},
             {"var_server_name", &CFlashSimulator::VarServerName},
             {"var_loginuser", &CFlashSimulator::VarLoginUser},
-            {"var_loginpass", &CFlashSimulator::VarDialogPending},
+            {"var_loginpass", &CFlashSimulator::VarLoginPass},
             {"var_logprotect", &CFlashSimulator::VarLogProtect},
             {"var_loginhelmsafe", &CFlashSimulator::VarLoginHelmSafe},
             {"var_loginhelmsafe_weixin", &CFlashSimulator::VarSafeToken},
@@ -90,7 +90,7 @@ struct VariableTables {
             {"setqrkey", &CFlashSimulator::VarDialogPending},
             {"setqrcodestatus", &CFlashSimulator::VarDialogPending},
             {"setregisteropen", &CFlashSimulator::VarSetRegisterOpen},
-            {"setpwdincorrect", &CFlashSimulator::VarDialogPending},
+            {"setpwdincorrect", &CFlashSimulator::VarPwdIncorrect},
             {"resetmainpath", &CFlashSimulator::VarResetMainPath},
         };
         return table;
@@ -160,10 +160,24 @@ const char* CFlashSimulator::GetLoginVariable(const char* szName) {
         nResult = m_dlgWeiXinLogin.IsWindowVisible() ? 1 : 0;
     else if (EqualsNoCase(szName, "VAR_INPUTSTATE_WARD"))
         nResult = m_dlgWardSafeToken.IsWindowVisible() ? 1 : 0;
+    else if (EqualsNoCase(szName, "VAR_FOCUS"))
+        nResult = FocusedInputField();
+    else if (EqualsNoCase(szName, "VAR_STARTTOVC"))
+        nResult = m_dlgNewFlashLogin.GetSelectionEdge(false);
+    else if (EqualsNoCase(szName, "VAR_ENDTOVC"))
+        nResult = m_dlgNewFlashLogin.GetSelectionEdge(true);
     else
-        return ""; // VAR_FOCUS, VAR_STARTTOVC and VAR_ENDTOVC answer once the login dialogs exist
+        return "";
     SafeItoA(nResult, s_szResult, sizeof s_szResult, 10);
     return s_szResult;
+}
+
+int CFlashSimulator::FocusedInputField() {
+    if (RoleDataQueryEn()->IsInputFlagSet()) return 0;
+    if (m_dlgWeiXinLogin.IsWindowVisible()) return INPUT_WEIXIN_TOKEN;
+    if (m_dlgWardSafeToken.IsWindowVisible()) return INPUT_WARD_TOKEN;
+    // NOTE: the security-token dialog's own selection joins VAR_STARTTOVC once that dialog exists.
+    return m_dlgNewFlashLogin.GetFocusField();
 }
 
 // ---- login scene
@@ -234,7 +248,21 @@ void CFlashSimulator::VarPlayLoginWardSafeToken(const char* szValue) {
 
 void CFlashSimulator::VarLoginUser(const char* szValue) {
     DebugMsg("user : %s", szValue);
-    m_dlgNewFlashLogin.SetAccountText(szValue);
+    m_dlgNewFlashLogin.SetInputText(szValue, INPUT_ACCOUNT);
+}
+
+void CFlashSimulator::VarLoginPass(const char* szValue) {
+    // NOTE: the password is never logged.
+    m_dlgNewFlashLogin.SetInputText(szValue, INPUT_PASSWORD);
+}
+
+void CFlashSimulator::VarFocusToFlash(const char* szValue) {
+    // NOTE: the classic login takes the focus first once that dialog exists.
+    if (m_dlgNewFlashLogin.IsWindowVisible()) m_dlgNewFlashLogin.FocusInput(SafeAtoi(szValue));
+}
+
+void CFlashSimulator::VarPwdIncorrect(const char*) {
+    m_dlgNewFlashLogin.MarkPasswordIncorrect();
 }
 
 void CFlashSimulator::VarLogProtect(const char* szValue) {
@@ -253,17 +281,15 @@ void CFlashSimulator::VarLoginHelmSafe(const char* szValue) {
     char masked[SAFE_TOKEN_BUFFER_SIZE];
     SafeSprintf(masked, sizeof masked, "%s", szValue);
     for (char* p = masked; *p; ++p) *p = '*';
-    m_dlgNewFlashLogin.SetSafeTokenText(masked);
+    m_dlgNewFlashLogin.SetInputText(masked, INPUT_TOKEN);
 }
 
 void CFlashSimulator::VarStartToFlash(const char* szValue) {
-    DebugMsg("Get Setting Start = %d", SafeAtoi(szValue));
-    m_dlgNewFlashLogin.SetSelStart(SafeAtoi(szValue));
+    m_dlgNewFlashLogin.SetSelectionEdge(false, SafeAtoi(szValue));
 }
 
 void CFlashSimulator::VarEndToFlash(const char* szValue) {
-    DebugMsg("Get Setting End = %d", SafeAtoi(szValue));
-    m_dlgNewFlashLogin.SetSelEnd(SafeAtoi(szValue));
+    m_dlgNewFlashLogin.SetSelectionEdge(true, SafeAtoi(szValue));
 }
 
 void CFlashSimulator::VarGameBackLogin(const char* szValue) {
@@ -271,7 +297,7 @@ void CFlashSimulator::VarGameBackLogin(const char* szValue) {
         if (m_pGuiMgr) m_pGuiMgr->Reset(0);
         m_dlgBG.ShowWindow(SW_SHOW);
         m_dlgNewFlashLogin.ShowWindow(SW_SHOW);
-        m_dlgNewFlashLogin.OnReturnFromGame(SafeAtoi(szValue) == 1);
+        m_dlgNewFlashLogin.OnBackToLogin(SafeAtoi(szValue) == 1);
     } catch (...) {
         SysLogError(__FILE__, __LINE__, "Flash VAR_GAME_BACKLOGOIN Crash!");
     }
@@ -303,11 +329,7 @@ void CFlashSimulator::OnAccountLoginKey() {
         if (RoleDataQueryEn()->GetSetting("Check", 0) != 1) RoleDataQueryEn()->SetSetting("Check", 1);
     }
     NotifyHost(m_dlgNewFlashLogin.IsRememberChecked() ? "CMD_RECORDACCOUNT" : "CMD_CLEARACCOUNT", "");
-    const int nChosen = m_dlgNewFlashLogin.GetChosenGroup();
-    if (nChosen != m_nGroup && nChosen < GetGroupCount() && nChosen < 3) {
-        m_nGroup = nChosen;
-        NotifyHostInt("CMD_SELECTGROUP", nChosen + 1);
-    }
+    m_dlgNewFlashLogin.CommitGroupSelection();
     NotifyHost("BURYING_POINT", "115");
     NotifyHost("CMD_ENTERGAME", "0");
 }
@@ -333,7 +355,8 @@ void CFlashSimulator::VarVersion(const char* szValue) {
     if (m_dlgSelectEdition.IsWindowVisible()) m_dlgSelectEdition.SetVersionText(szValue);
     if (m_dlgSelectGroup.IsWindowVisible()) m_dlgSelectGroup.SetVersionText(szValue);
     if (m_dlgSelectServer.IsWindowVisible()) m_dlgSelectServer.SetVersionText(szValue);
-    // NOTE: the visible login dialogs show the new text once those screens exist.
+    if (m_dlgNewFlashLogin.IsWindowVisible()) m_dlgNewFlashLogin.SetVersionText(szValue);
+    // NOTE: the classic login shows the new text once that screen exists.
 }
 
 void CFlashSimulator::VarSetRecAccount(const char* szValue) {
@@ -355,7 +378,8 @@ void CFlashSimulator::VarMusic(const char* szValue) {
     if (m_dlgSelectEdition.IsWindowVisible()) m_dlgSelectEdition.SetMusicCheck(m_bMusicOn);
     if (m_dlgSelectGroup.IsWindowVisible()) m_dlgSelectGroup.SetMusicCheck(m_bMusicOn);
     if (m_dlgSelectServer.IsWindowVisible()) m_dlgSelectServer.SetMusicCheck(m_bMusicOn);
-    // NOTE: the login dialogs set their music check buttons once those screens exist.
+    if (m_dlgNewFlashLogin.IsWindowVisible()) m_dlgNewFlashLogin.SetMusicCheck(m_bMusicOn);
+    // NOTE: the classic login sets its music check button once that screen exists.
 }
 
 void CFlashSimulator::VarMusicSwitch(const char* szValue) {
