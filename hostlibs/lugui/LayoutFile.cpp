@@ -9,7 +9,7 @@
 namespace LuGui {
 namespace {
 
-// NOTE: longer lines are cut here; a layout value never needs more.
+// Lines are read in pieces of this size and joined again.
 constexpr int MAX_LAYOUT_LINE = 2048;
 
 std::string ToLower(std::string_view s) {

@@ -196,7 +196,8 @@ void CLuBaseWindow::ApplyLayout() {
         CLayoutFile::ReadNumbers(sz, v);
         MoveWindow(v[0], v[1], v[2], v[3], FALSE);
     }
-    if (const char* sz = rec.GetValue("Text")) m_strText = sz;
+    // Through the virtual setter, so that an edit cuts the text at its limit and puts its caret at the end.
+    if (const char* sz = rec.GetValue("Text")) SetWindowTextA(sz);
     if (const char* sz = rec.GetValue("Font")) {
         int v[2] = {0, 0};
         const int n = CLayoutFile::ReadNumbers(sz, v);

@@ -1,6 +1,8 @@
 // Dialogs of the widget toolkit: binding controls, the message map, routing messages to controls, showing.
 #include "LuDialog.h"
 
+#include <strings.h>
+
 #include <algorithm>
 
 #include "GameGraphic.h"
@@ -25,7 +27,7 @@ void DDX_Control(CDataExchange* pDX, int nIDC, CLuCtrl& rControl) {
     rControl.Attach(pMgr, pDialog, nId, pLayout);
     if (pLayout) {
         const char* szKind = pLayout->GetValue("Kind");
-        if (szKind && std::string_view(szKind) != CtrlKindName(rControl.GetKind()))
+        if (szKind && ::strcasecmp(szKind, CtrlKindName(rControl.GetKind())) != 0)
             LogMsg("layout %s: a %s is bound as a %s", pLayout->GetName(), szKind,
                    CtrlKindName(rControl.GetKind()));
     }
