@@ -6,7 +6,8 @@
 
 namespace {
 
-constexpr const char* FLAG_CHARS = "-+ #0";
+// NOTE: no blank flag: in texts "50% off" is a percent sign and a word, not a conversion.
+constexpr const char* FLAG_CHARS = "-+#0";
 constexpr const char* LENGTH_CHARS = "hlLqjzt";
 constexpr const char* CONVERSION_CHARS = "diouxXeEfFgGaAcspn";
 

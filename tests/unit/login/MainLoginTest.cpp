@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "SimulatorFixture.h"
+#include "hostlibs/HostCanvas.h"
 #include "platform/GameData.h"
 
 namespace {
@@ -235,6 +236,43 @@ TEST_F(MainLoginTest, WithoutTheBrowserFolderThePageGoesToTheShell) {
     EXPECT_EQ(host::JournalCount("shell.open"), nOpens + 1);
     EXPECT_FALSE(m_sim->GetWebRegisterDialog().IsWindowVisible());
     EXPECT_FALSE(m_sim->IsRegisterOpen());
+}
+
+TEST_F(MainLoginTest, WithoutAnyRecordTheFirstNewServerIsTaken) {
+    host::SetData("newservers", "Tiger");
+    Create(0, "");
+    m_sim->SetSceneType(EST_LOGIN);
+    Set("VAR_SERVER_AREA", "2#East|West|");
+    Set("VAR_SERVER_NAME", "2#Dragon|Tiger|");
+    Set("VAR_MAINPATH", "1");
+    EXPECT_STREQ(Login().GetServerLabel(), "East -> Tiger");
+    const auto commands = TakeCommands();
+    ASSERT_GE(commands.size(), 2u);
+    EXPECT_EQ(commands[0], "CMD_SELECTGROUP 1");
+    EXPECT_EQ(commands[1], "CMD_EX_SELECTSERVER 2");
+}
+
+TEST_F(MainLoginTest, ComingBackFromTheGameOpensTheCreationPageOncePerInstallation) {
+    host::SetData("strres.6124050", "https://example.com/register");
+    Start();
+    const int nOpens = host::JournalCount("shell.open");
+    Set("VAR_GAME_BACKLOGOIN", "1");
+    EXPECT_EQ(host::JournalCount("shell.open"), nOpens + 1);
+    EXPECT_EQ(RoleDataQueryEn()->GetSetting("Register", 0), 1);
+    Set("VAR_GAME_BACKLOGOIN", "1");
+    Set("VAR_GAME_BACKLOGOIN", "0");
+    EXPECT_EQ(host::JournalCount("shell.open"), nOpens + 1);
+}
+
+TEST_F(MainLoginTest, PlaceholdersComeFromTheServerStateFile) {
+    m_dir.Write("ini/ServerState.ini", "[zrAccount]\nnormalTxt=Your account\n");
+    Start();
+    host::UseCanvas(host::CanvasKind::Recording);
+    host::BeginFrame();
+    m_sim->Show();
+    bool bFound = false;
+    for (const host::DrawOp& op : host::GetRecordedOps()) bFound = bFound || op.text == "Your account";
+    EXPECT_TRUE(bFound);
 }
 
 } // namespace

@@ -1,0 +1,36 @@
+// Formatting of string-table texts: printf-style formats converted to fmt's, and formats that cannot fail.
+#include <gtest/gtest.h>
+
+#include "resources/MyString.h"
+
+TEST(MyString, RecognisesPrintfConversions) {
+    EXPECT_TRUE(CMyString::IsOldFormatStr("Version %s"));
+    EXPECT_TRUE(CMyString::IsOldFormatStr("%5.2f%%"));
+    EXPECT_TRUE(CMyString::IsOldFormatStr("%lld players"));
+    EXPECT_FALSE(CMyString::IsOldFormatStr("Version {}"));
+    EXPECT_FALSE(CMyString::IsOldFormatStr("100% sure"));
+    EXPECT_FALSE(CMyString::IsOldFormatStr("ends with %"));
+}
+
+TEST(MyString, ConvertsConversionsPercentsAndBraces) {
+    EXPECT_EQ(CMyString::TransfromOldFmt2NewFmt("%s -> %d"), "{} -> {}");
+    EXPECT_EQ(CMyString::TransfromOldFmt2NewFmt("%-08.3lf%%"), "{}%");
+    EXPECT_EQ(CMyString::TransfromOldFmt2NewFmt("{%s}"), "{{{}}}");
+    EXPECT_EQ(CMyString::TransfromOldFmt2NewFmt("100% sure"), "100% sure");
+}
+
+TEST(MyString, FormatsEitherStyleAndNeverThrows) {
+    EXPECT_EQ(CMyString::Format("Version %s", "1.2"), "Version 1.2");
+    EXPECT_EQ(CMyString::Format("{0}: {1}%", "Busy", 75), "Busy: 75%");
+    EXPECT_EQ(CMyString::Format("{1} before {0}", "a", "b"), "b before a");
+    EXPECT_EQ(CMyString::Format("updated %d/%d", 3, 15), "updated 3/15");
+    // A format that asks for more than it is given, or is malformed, comes back unfilled.
+    EXPECT_EQ(CMyString::Format("{} and {}", 1), "{} and {}");
+    EXPECT_EQ(CMyString::Format("{:q}", 1), "{:q}");
+    EXPECT_EQ(CMyString::Format("%s", "x"), "x");
+}
+
+TEST(MyString, ResultsAreCutAtTheLimit) {
+    const std::string big(10000, 'x');
+    EXPECT_EQ(CMyString::Format("{}", big).size(), CMyString::MAX_TEXT);
+}
