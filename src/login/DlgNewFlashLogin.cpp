@@ -148,8 +148,10 @@ void CDlgNewFlashLogin::MessageMap() {
                                                     {IDC_AGREEMENT_LINE, STR_AGREEMENT_URL},
                                                     {IDC_PRIVACY_LINK, STR_PRIVACY_URL},
                                                     {IDC_PRIVACY_LINE, STR_PRIVACY_URL}};
-    for (const auto& [id, url] : pages)
-        PushMsgMap(WM_COMMAND, id, MsgHandler([this, url] { OnOpenStringPage(url); }));
+    for (const auto& page : pages) {
+        const std::uint32_t nUrlId = page.second;
+        PushMsgMap(WM_COMMAND, page.first, MsgHandler([this, nUrlId] { OnOpenStringPage(nUrlId); }));
+    }
     PushMsgMap(WM_COMMAND, IDC_SOUND, &CDlgNewFlashLogin::OnSound);
     PushMsgMap(WM_COMMAND, IDC_BACK, &CDlgNewFlashLogin::OnBack);
     PushMsgMap(WM_COMMAND, IDC_EXIT, &CDlgNewFlashLogin::OnExit);
@@ -158,8 +160,10 @@ void CDlgNewFlashLogin::MessageMap() {
     PushMsgMap(WM_COMMAND, IDC_PANEL_CLOSE, &CDlgNewFlashLogin::OnPanelClose);
     const std::pair<UINT, int> fields[] = {
         {IDC_ACCOUNT, INPUT_ACCOUNT}, {IDC_PASSWORD, INPUT_PASSWORD}, {IDC_TOKEN, INPUT_TOKEN}};
-    for (const auto& [id, field] : fields)
-        PushMsgMap(WM_COMMAND, id, MsgHandler([this, field] { OnFieldFocus(field); }));
+    for (const auto& entry : fields) {
+        const int nField = entry.second;
+        PushMsgMap(WM_COMMAND, entry.first, MsgHandler([this, nField] { OnFieldFocus(nField); }));
+    }
     // NOTE: the inline server panel is never shown; its tabs and server buttons have nothing to do.
 }
 
