@@ -12,6 +12,7 @@
 #include "platform/Log.h"
 #include "platform/LuGui.h"
 #include "resources/TextScan.h"
+#include "servers/ScreenActions.h"
 #include "simulator/FlashSimulator.h"
 #include "simulator/LayoutNumbers.h"
 
@@ -421,19 +422,24 @@ void CDlgNewFlashLogin::OnAccountListButton() {
     m_bAccountListOpen = true;
 }
 
+std::string CDlgNewFlashLogin::TakeAccountRow(int nRow) {
+    char szRow[ROW_READ] = {};
+    m_listAccount.GetText(nRow, szRow, sizeof szRow);
+    FlashSim()->NotifyHost("CMD_SELECTACCOUNT", szRow);
+    m_listAccount.ShowWindow(SW_HIDE);
+    m_bAccountListOpen = false;
+    return szRow;
+}
+
 void CDlgNewFlashLogin::OnAccountRowChosen(int nRow) {
     CFlashSimulator* pSim = FlashSim();
     if (!pSim) return;
-    char szRow[ROW_READ] = {};
-    m_listAccount.GetText(nRow, szRow, sizeof szRow);
-    pSim->NotifyHost("CMD_SELECTACCOUNT", szRow);
-    m_listAccount.ShowWindow(SW_HIDE);
-    m_bAccountListOpen = false;
-    m_editAccount.SetWindowTextA(szRow);
+    const std::string account = TakeAccountRow(nRow);
+    m_editAccount.SetWindowTextA(account.c_str());
     m_editAccount.SetFocus();
-    const int nLength = static_cast<int>(std::strlen(szRow));
+    const int nLength = static_cast<int>(account.size());
     m_editAccount.SetSel(nLength, nLength);
-    SetChecked(m_btnRemember, szRow[0] != '\0');
+    SetChecked(m_btnRemember, !account.empty());
     pSim->NotifyHost("CMD_TEXTSELECT", "");
     m_listAccount.ResetContent();
 }
@@ -441,11 +447,7 @@ void CDlgNewFlashLogin::OnAccountRowChosen(int nRow) {
 void CDlgNewFlashLogin::OnAccountRowDeleted(int nRow) {
     CFlashSimulator* pSim = FlashSim();
     if (!pSim) return;
-    char szRow[ROW_READ] = {};
-    m_listAccount.GetText(nRow, szRow, sizeof szRow);
-    pSim->NotifyHost("CMD_SELECTACCOUNT", szRow);
-    m_listAccount.ShowWindow(SW_HIDE);
-    m_bAccountListOpen = false;
+    TakeAccountRow(nRow);
     m_listAccount.ClearHover();
     pSim->GetConfirmDialog().Show(CDlgFlashConfirm::TYPE_CLEAR_ACCOUNT, nullptr);
     pSim->NotifyHost("CMD_TEXTSELECT", "");
@@ -512,10 +514,7 @@ void CDlgNewFlashLogin::OnOpenStringPage(std::uint32_t nUrlId) {
 }
 
 void CDlgNewFlashLogin::OnSound() {
-    if (IsLocked()) return;
-    CFlashSimulator* pSim = FlashSim();
-    pSim->SetMusic(m_chkSound.GetCheckValue());
-    pSim->NotifyHost("SET_MUSIC", pSim->IsMusicOn() ? "1" : "0");
+    if (!IsLocked()) ReportMusicChoice(m_chkSound.GetCheckValue());
 }
 
 void CDlgNewFlashLogin::OnBack() {
@@ -526,8 +525,7 @@ void CDlgNewFlashLogin::OnBack() {
 }
 
 void CDlgNewFlashLogin::OnExit() {
-    if (IsLocked()) return;
-    FlashSim()->GetConfirmDialog().Show(CDlgFlashConfirm::TYPE_EXIT, nullptr);
+    if (!IsLocked()) AskToLeave();
 }
 
 void CDlgNewFlashLogin::OnReload() {

@@ -8,12 +8,12 @@
 #include "platform/GameData.h"
 #include "resources/MyString.h"
 #include "resources/TextScan.h"
+#include "servers/ScreenActions.h"
 #include "simulator/FlashSimulator.h"
 #include "simulator/LayoutNumbers.h"
 
 namespace {
 
-constexpr std::uint32_t STR_VERSION_FORMAT = 3110000;
 constexpr std::uint32_t STR_DEFAULT_LAST_SERVER = 8000060;
 constexpr std::uint32_t STR_LOAD_PICTURE_X = 3000187;
 constexpr std::uint32_t STR_SELECT_LINK_X = 3000190;
@@ -158,9 +158,7 @@ void CDlgNewFlashLogin::RefreshTexts() {
 }
 
 void CDlgNewFlashLogin::SetVersionText(const char* szVersion) {
-    CFlashSimulator* pSim = FlashSim();
-    if (!szVersion || !pSim) return;
-    m_staVersion.SetWindowTextA(CMyString::Format(pSim->GetStr(STR_VERSION_FORMAT), szVersion).c_str());
+    if (szVersion) m_staVersion.SetWindowTextA(VersionLabelText(szVersion).c_str());
 }
 
 void CDlgNewFlashLogin::RefreshEmbeddedBrowserSwitch() {

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <string>
 
-#include "resources/MyString.h"
+#include "servers/ScreenActions.h"
 #include "simulator/FlashSimulator.h"
 
 namespace {
@@ -95,19 +95,15 @@ void CDlgSelectEdition::OnDeleteRecord(int nSlot) {
 }
 
 void CDlgSelectEdition::OnSound() {
-    CFlashSimulator* pSim = FlashSim();
-    if (!pSim) return;
-    pSim->SetMusic(m_chkSound.GetCheckValue());
-    pSim->NotifyHost("SET_MUSIC", pSim->IsMusicOn() ? "1" : "0");
+    ReportMusicChoice(m_chkSound.GetCheckValue());
 }
 
 void CDlgSelectEdition::OnBack() {
-    if (CFlashSimulator* pSim = FlashSim()) pSim->OnReturn();
+    StepBack();
 }
 
 void CDlgSelectEdition::OnExit() {
-    if (CFlashSimulator* pSim = FlashSim())
-        pSim->GetConfirmDialog().Show(CDlgFlashConfirm::TYPE_EXIT, nullptr);
+    AskToLeave();
 }
 
 // ---- records -------------------------------------------------------------------------------------
@@ -134,9 +130,7 @@ void CDlgSelectEdition::RefreshRecordButtons() {
 }
 
 void CDlgSelectEdition::SetVersionText(const char* szVersion) {
-    CFlashSimulator* pSim = FlashSim();
-    if (!szVersion || !pSim) return;
-    m_staVersion.SetWindowTextA(CMyString::Format(pSim->GetStr(STR_VERSION_FORMAT), szVersion).c_str());
+    if (szVersion) m_staVersion.SetWindowTextA(VersionLabelText(szVersion).c_str());
 }
 
 void CDlgSelectEdition::EnableButtons(bool bEnable) {

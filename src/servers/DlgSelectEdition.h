@@ -27,7 +27,6 @@ public:
     static constexpr UINT IDC_BOTTOM2 = 1026;
     static constexpr UINT IDC_LOGO = 1130;
 
-    static constexpr std::uint32_t STR_VERSION_FORMAT = 3110000;
     static constexpr std::uint32_t STR_EMPTY_RECORD = 3110019;
     static constexpr DWORD RECORD_COLOUR = 0xFFA2FEFF;
     static constexpr DWORD EMPTY_RECORD_COLOUR = 0xFFFFFFFF;

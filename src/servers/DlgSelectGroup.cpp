@@ -6,8 +6,8 @@
 #include "platform/Input.h"
 #include "platform/LuGui.h"
 #include "platform/LuLayoutRecord.h"
-#include "resources/MyString.h"
 #include "resources/TextScan.h"
+#include "servers/ScreenActions.h"
 #include "simulator/FlashSimulator.h"
 #include "simulator/LayoutNumbers.h"
 
@@ -81,19 +81,15 @@ void CDlgSelectGroup::OnJoinedServer() {
 }
 
 void CDlgSelectGroup::OnSound() {
-    CFlashSimulator* pSim = FlashSim();
-    if (!pSim) return;
-    pSim->SetMusic(m_chkSound.GetCheckValue());
-    pSim->NotifyHost("SET_MUSIC", pSim->IsMusicOn() ? "1" : "0");
+    ReportMusicChoice(m_chkSound.GetCheckValue());
 }
 
 void CDlgSelectGroup::OnBack() {
-    if (CFlashSimulator* pSim = FlashSim()) pSim->OnReturn();
+    StepBack();
 }
 
 void CDlgSelectGroup::OnExit() {
-    if (CFlashSimulator* pSim = FlashSim())
-        pSim->GetConfirmDialog().Show(CDlgFlashConfirm::TYPE_EXIT, nullptr);
+    AskToLeave();
 }
 
 // ---- filling -------------------------------------------------------------------------------------
@@ -149,9 +145,7 @@ void CDlgSelectGroup::RefillGroups() {
 }
 
 void CDlgSelectGroup::SetVersionText(const char* szVersion) {
-    CFlashSimulator* pSim = FlashSim();
-    if (!szVersion || !pSim) return;
-    m_staVersion.SetWindowTextA(CMyString::Format(pSim->GetStr(STR_VERSION_FORMAT), szVersion).c_str());
+    if (szVersion) m_staVersion.SetWindowTextA(VersionLabelText(szVersion).c_str());
 }
 
 void CDlgSelectGroup::EnableButtons(bool bEnable) {

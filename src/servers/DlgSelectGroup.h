@@ -26,7 +26,6 @@ public:
     static constexpr UINT IDC_VERSION = 1127;
     static constexpr UINT IDC_LOGO = 1131;
 
-    static constexpr std::uint32_t STR_VERSION_FORMAT = 3110000;
     static constexpr std::uint32_t STR_NO_ENTRY = 3110018;
     static constexpr std::uint32_t STR_MARK_TIP = 5000000;
     static constexpr std::uint32_t STR_MARK_OFFSET = 5000001;

@@ -7,6 +7,7 @@
 #include "platform/Input.h"
 #include "platform/LuGui.h"
 #include "resources/MyString.h"
+#include "servers/ScreenActions.h"
 #include "servers/ServerLoad.h"
 #include "simulator/FlashSimulator.h"
 #include "simulator/LayoutNumbers.h"
@@ -122,9 +123,7 @@ void CDlgSelectServer::FillLoadBar(int nIndex) {
 }
 
 void CDlgSelectServer::SetVersionText(const char* szVersion) {
-    CFlashSimulator* pSim = FlashSim();
-    if (!szVersion || !pSim) return;
-    m_staVersion.SetWindowTextA(CMyString::Format(pSim->GetStr(STR_VERSION_FORMAT), szVersion).c_str());
+    if (szVersion) m_staVersion.SetWindowTextA(VersionLabelText(szVersion).c_str());
 }
 
 void CDlgSelectServer::EnableButtons(bool bEnable) {
@@ -164,19 +163,15 @@ LRESULT CDlgSelectServer::WindowProc(UINT uMsg, WPARAM wParam, LPARAM lParam) {
 }
 
 void CDlgSelectServer::OnSound() {
-    CFlashSimulator* pSim = FlashSim();
-    if (!pSim) return;
-    pSim->SetMusic(m_chkSound.GetCheckValue());
-    pSim->NotifyHost("SET_MUSIC", pSim->IsMusicOn() ? "1" : "0");
+    ReportMusicChoice(m_chkSound.GetCheckValue());
 }
 
 void CDlgSelectServer::OnBack() {
-    if (CFlashSimulator* pSim = FlashSim()) pSim->OnReturn();
+    StepBack();
 }
 
 void CDlgSelectServer::OnExit() {
-    if (CFlashSimulator* pSim = FlashSim())
-        pSim->GetConfirmDialog().Show(CDlgFlashConfirm::TYPE_EXIT, nullptr);
+    AskToLeave();
 }
 
 // ---- tips ----------------------------------------------------------------------------------------

@@ -28,7 +28,6 @@ public:
     static constexpr UINT IDC_VERSION = 1128;
     static constexpr UINT IDC_LOGO = 1132;
 
-    static constexpr std::uint32_t STR_VERSION_FORMAT = 3110000;
     static constexpr std::uint32_t STR_NO_ENTRY = 3110018;
     static constexpr std::uint32_t STR_LOAD_TIP = 3110030;
     static constexpr std::uint32_t STR_MAINTENANCE_TIP = 3110031;
