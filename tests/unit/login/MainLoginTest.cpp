@@ -275,4 +275,34 @@ TEST_F(MainLoginTest, PlaceholdersComeFromTheServerStateFile) {
     EXPECT_TRUE(bFound);
 }
 
+TEST_F(MainLoginTest, ChoosingAnotherLanguageReloadsAndTellsTheHost) {
+    host::SetData("languages", "0:Chinese|1:English|2:Deutsch");
+    host::SetData("language.index", "0");
+    Start();
+    Press(CDlgNewFlashLogin::IDC_LANGUAGE_BUTTON);
+    ASSERT_TRUE(Ctrl(CDlgNewFlashLogin::IDC_LANGUAGE_LIST).IsWindowVisible());
+    TakeCommands();
+    Login().WindowProc(LuGui::LU_MSG_LIST_SELECT, CDlgNewFlashLogin::IDC_LANGUAGE_LIST, 2);
+    EXPECT_EQ(host::GetData("language.index"), "2");
+    EXPECT_STREQ(Ctrl(CDlgNewFlashLogin::IDC_LANGUAGE_NAME).GetWindowTextA(), "Deutsch");
+    EXPECT_FALSE(Ctrl(CDlgNewFlashLogin::IDC_LANGUAGE_LIST).IsWindowVisible());
+    EXPECT_EQ(TakeCommands().back(), "CMD_SWITCH_LANGUAGE 0");
+    Press(CDlgNewFlashLogin::IDC_LANGUAGE_BUTTON);
+    Login().WindowProc(LuGui::LU_MSG_LIST_SELECT, CDlgNewFlashLogin::IDC_LANGUAGE_LIST, 2); // the same again
+    EXPECT_TRUE(TakeCommands().empty());
+}
+
+TEST_F(MainLoginTest, ActivationAndAttentionMessages) {
+    Start();
+    Press(CDlgNewFlashLogin::IDC_ACCOUNT_LIST_BUTTON);
+    TakeCommands();
+    Login().WindowProc(LuGui::LU_MSG_LOSE_FOCUS, 0, 0);
+    EXPECT_FALSE(Ctrl(CDlgNewFlashLogin::IDC_ACCOUNT_LIST).IsWindowVisible());
+    EXPECT_EQ(TakeCommands(), std::vector<std::string>{"CMD_TEXTSELECT "});
+    m_sim->SetPlatformModeB(true);
+    Login().WindowProc(LuGui::LU_MSG_ACTIVATE, 0, 0);
+    EXPECT_FALSE(Ctrl(CDlgNewFlashLogin::IDC_BACK).IsWindowVisible());
+    EXPECT_TRUE(Ctrl(CDlgNewFlashLogin::IDC_EXIT).IsWindowEnabled());
+}
+
 } // namespace
