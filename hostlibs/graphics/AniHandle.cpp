@@ -60,12 +60,13 @@ bool AniHandle::DrawFrame(ICanvas& canvas, int nFrame, const Rect& dst, int nAlp
 
 bool AniHandle::Show(int nFrame, int x, int y, float fScaleX, float fScaleY, int nAlpha) {
     const SIZE size = GetSize(nFrame);
-    const Rect dst{x, y, ScaledLength(size.cx, fScaleX), ScaledLength(size.cy, fScaleY)};
+    const Rect dst{ClampCoord(x), ClampCoord(y), ClampCoord(ScaledLength(size.cx, fScaleX)),
+                   ClampCoord(ScaledLength(size.cy, fScaleY))};
     return DrawFrame(GraphicsState::Instance().Canvas(), nFrame, dst, nAlpha);
 }
 
 bool AniHandle::ShowStretch(int nFrame, const RECT& rcDest, int nAlpha) {
-    return DrawFrame(GraphicsState::Instance().Canvas(), nFrame, Rect::FromRECT(rcDest), nAlpha);
+    return DrawFrame(GraphicsState::Instance().Canvas(), nFrame, Rect::FromRECT(ClampRECT(rcDest)), nAlpha);
 }
 
 } // namespace gfx

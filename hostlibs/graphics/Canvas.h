@@ -9,17 +9,36 @@
 
 namespace gfx {
 
+/// a + b saturated to the int range: coordinates come from layouts and hosts.
+inline int SaturatedAdd(long long a, long long b) {
+    const long long n = a + b;
+    return n > INT32_MAX ? INT32_MAX : n < INT32_MIN ? INT32_MIN : static_cast<int>(n);
+}
+
+/// Coordinates and sizes handed to the graphics library are kept within this distance of the origin: nothing
+/// that far away is on any screen, and the drawing code may then add offsets without overflowing.
+inline constexpr int kCoordLimit = 1 << 28;
+inline int ClampCoord(int n) {
+    return n > kCoordLimit ? kCoordLimit : n < -kCoordLimit ? -kCoordLimit : n;
+}
+inline RECT ClampRECT(const RECT& rc) {
+    return {ClampCoord(rc.left), ClampCoord(rc.top), ClampCoord(rc.right), ClampCoord(rc.bottom)};
+}
+
 /// A rectangle by corner and size; empty when either side is not positive.
 struct Rect {
     int x = 0, y = 0, w = 0, h = 0;
 
     bool Empty() const { return w <= 0 || h <= 0; }
-    int Right() const { return x + w; }
-    int Bottom() const { return y + h; }
+    int Right() const { return SaturatedAdd(x, w); }
+    int Bottom() const { return SaturatedAdd(y, h); }
     bool Contains(int px, int py) const { return px >= x && py >= y && px < Right() && py < Bottom(); }
     Rect Intersect(const Rect& o) const;
-    static Rect FromRECT(const RECT& rc) { return {rc.left, rc.top, rc.right - rc.left, rc.bottom - rc.top}; }
-    RECT ToRECT() const { return {x, y, x + w, y + h}; }
+    static Rect FromRECT(const RECT& rc) {
+        return {rc.left, rc.top, SaturatedAdd(rc.right, -static_cast<long long>(rc.left)),
+                SaturatedAdd(rc.bottom, -static_cast<long long>(rc.top))};
+    }
+    RECT ToRECT() const { return {x, y, Right(), Bottom()}; }
 };
 
 inline Rect Rect::Intersect(const Rect& o) const {

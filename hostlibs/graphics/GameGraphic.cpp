@@ -62,6 +62,10 @@ std::vector<std::u32string> BreakLines(const std::u32string& text, int size, int
 bool CGameGraphic::ShowNineImageBackGround(const char* szTitle, int x, int y, int nWidth, int nHeight,
                                            int nAlpha, const char* szAniFile) {
     const gfx::AniHandle* ani = FindAni(szAniFile, szTitle);
+    x = gfx::ClampCoord(x);
+    y = gfx::ClampCoord(y);
+    nWidth = gfx::ClampCoord(nWidth);
+    nHeight = gfx::ClampCoord(nHeight);
     const gfx::Rect dst{x, y, nWidth, nHeight};
     if (!ani || dst.Empty() || !HasVisibleFrame(*ani)) return false;
     nAlpha = std::clamp(nAlpha, 0, kOpaque);
@@ -85,7 +89,7 @@ bool CGameGraphic::ShowCtrlAni(const char* szTitle, int x, int y, int nFrame, in
 bool CGameGraphic::ShowAniRect(const char* szFile, const char* szTitle, int nFrame, const RECT& rcDest,
                                int nAlpha) {
     gfx::AniHandle* ani = FindAni(szFile, szTitle);
-    return ani && ani->ShowStretch(ResolveFrame(*ani, nFrame), rcDest, nAlpha);
+    return ani && ani->ShowStretch(ResolveFrame(*ani, nFrame), gfx::ClampRECT(rcDest), nAlpha);
 }
 
 int CGameGraphic::ShowStrRes(int x, int y, const char* szText, DWORD dwMode, const char*, int nFontSize,
@@ -93,6 +97,8 @@ int CGameGraphic::ShowStrRes(int x, int y, const char* szText, DWORD dwMode, con
                              SIZE* pOutSize, void*) {
     if (pOutSize) *pOutSize = {0, 0};
     if (!szText || !*szText) return 0;
+    x = gfx::ClampCoord(x);
+    y = gfx::ClampCoord(y);
     const int size = gfx::FontRenderer::ClampSize(nFontSize > 0 ? nFontSize : kDefaultFontSize);
     const std::u32string text =
         gfx::TextCodec::Utf8ToUtf32(std::string_view(szText, strnlen(szText, kMaxStrResLength)));
@@ -123,6 +129,10 @@ bool CGameGraphic::ShowStrresUI(int nWidth, int nHeight, int x, int y, const cha
                                 const char* szAniFile) {
     const gfx::AniHandle* ani = FindAni(kStrResAniFile, szTitle);
     if (!ani) return false;
+    x = gfx::ClampCoord(x);
+    y = gfx::ClampCoord(y);
+    nWidth = gfx::ClampCoord(nWidth);
+    nHeight = gfx::ClampCoord(nHeight);
     nFrame = ResolveFrame(*ani, nFrame);
     const SIZE natural = ani->GetSize(nFrame);
     const bool stretched = nWidth > 0 && nHeight > 0;

@@ -82,7 +82,7 @@ void Gui3DEffectSet::ShowEffect(const Effect& effect, int x, int y) const {
 }
 
 void Gui3DEffectSet::Show(int x, int y) {
-    for (const Effect& effect : m_effects) ShowEffect(effect, x, y);
+    for (const Effect& effect : m_effects) ShowEffect(effect, ClampCoord(x), ClampCoord(y));
 }
 
 } // namespace gfx

@@ -56,12 +56,14 @@ void DrawText(int x, int y, DWORD colour, const std::u32string& text, int size, 
 
 void CMyBitmap::ShowStringW(int x, int y, DWORD dwColor, const char16_t* szText, const char*, int nFontSize,
                             bool bAntialias, int nStyle, DWORD dwEffectColor, SIZE* pOutSize, const void*) {
-    DrawText(x, y, dwColor, FromUtf16(szText), nFontSize, bAntialias, nStyle, dwEffectColor, pOutSize);
+    DrawText(gfx::ClampCoord(x), gfx::ClampCoord(y), dwColor, FromUtf16(szText), nFontSize, bAntialias,
+             nStyle, dwEffectColor, pOutSize);
 }
 
 void CMyBitmap::ShowString(int x, int y, DWORD dwColor, const char* szText, const char*, int nFontSize,
                            bool bAntialias, int nStyle, DWORD dwEffectColor, SIZE* pOutSize, const void*) {
-    DrawText(x, y, dwColor, FromUtf8(szText), nFontSize, bAntialias, nStyle, dwEffectColor, pOutSize);
+    DrawText(gfx::ClampCoord(x), gfx::ClampCoord(y), dwColor, FromUtf8(szText), nFontSize, bAntialias, nStyle,
+             dwEffectColor, pOutSize);
 }
 
 int CMyBitmap::GetStringWidth(const char* szText, int nFontSize) {
@@ -85,15 +87,17 @@ bool CMyBitmap::IsDBCSLeadByte(unsigned char byte) {
 }
 
 void CMyBitmap::ShowLine(int x1, int y1, int x2, int y2, DWORD dwColor) {
-    gfx::GraphicsState::Instance().Canvas().Line(x1, y1, x2, y2, OpaqueIfNoAlpha(dwColor));
+    gfx::GraphicsState::Instance().Canvas().Line(gfx::ClampCoord(x1), gfx::ClampCoord(y1),
+                                                 gfx::ClampCoord(x2), gfx::ClampCoord(y2),
+                                                 OpaqueIfNoAlpha(dwColor));
 }
 
 void CMyBitmap::ShowBlock(const RECT& rc, DWORD dwColor) {
-    gfx::GraphicsState::Instance().Canvas().FillRect(gfx::Rect::FromRECT(rc), dwColor);
+    gfx::GraphicsState::Instance().Canvas().FillRect(gfx::Rect::FromRECT(gfx::ClampRECT(rc)), dwColor);
 }
 
 void CMyBitmap::ShowRect(const RECT& rc, DWORD dwColor) {
-    gfx::GraphicsState::Instance().Canvas().OutlineRect(gfx::Rect::FromRECT(rc), dwColor);
+    gfx::GraphicsState::Instance().Canvas().OutlineRect(gfx::Rect::FromRECT(gfx::ClampRECT(rc)), dwColor);
 }
 
 int CMyBitmap::GetScreenWidth() {

@@ -12,9 +12,9 @@ namespace {
 // The pixels an operation may touch; lines and zero-sized operations count one pixel wide.
 Rect Bounds(const host::DrawOp& op) {
     if (op.kind == "line") {
-        const int left = std::min(op.x, op.x + op.w);
-        const int top = std::min(op.y, op.y + op.h);
-        return {left, top, std::abs(op.w) + 1, std::abs(op.h) + 1};
+        const int left = std::min(op.x, SaturatedAdd(op.x, op.w));
+        const int top = std::min(op.y, SaturatedAdd(op.y, op.h));
+        return {left, top, SaturatedAdd(std::llabs(op.w), 1), SaturatedAdd(std::llabs(op.h), 1)};
     }
     return {op.x, op.y, std::max(op.w, 1), std::max(op.h, 1)};
 }
@@ -50,7 +50,9 @@ void RecordingCanvas::OutlineRect(const Rect& rc, DWORD colour) {
 }
 
 void RecordingCanvas::Line(int x1, int y1, int x2, int y2, DWORD colour) {
-    Record(OpBuilder("line", {x1, y1, x2 - x1, y2 - y1}).Colour(colour));
+    Record(OpBuilder("line", {x1, y1, SaturatedAdd(x2, -static_cast<long long>(x1)),
+                              SaturatedAdd(y2, -static_cast<long long>(y1))})
+               .Colour(colour));
 }
 
 void RecordingCanvas::Text(int x, int y, const std::u32string& text, const TextStyle& style) {

@@ -15,6 +15,13 @@
 
 namespace LuGui {
 
+namespace {
+// Layout numbers are outside text: sums saturate instead of overflowing.
+LONG AddSaturated(long long a, long long b) {
+    return static_cast<LONG>(std::clamp<long long>(a + b, INT32_MIN, INT32_MAX));
+}
+} // namespace
+
 CLuBaseWindow::CLuBaseWindow() : m_strBgAniFile(CONTROL_ANI_FILE) {
 }
 
@@ -64,7 +71,8 @@ void CLuBaseWindow::GetWindowRect(RECT* pRect) const {
 
 RECT CLuBaseWindow::GetWindowRect() const {
     const POINT origin = GetParentOrigin();
-    return RECT{m_rc.left + origin.x, m_rc.top + origin.y, m_rc.right + origin.x, m_rc.bottom + origin.y};
+    return RECT{AddSaturated(m_rc.left, origin.x), AddSaturated(m_rc.top, origin.y),
+                AddSaturated(m_rc.right, origin.x), AddSaturated(m_rc.bottom, origin.y)};
 }
 
 void CLuBaseWindow::GetClientRect(RECT* pRect) const {
@@ -92,7 +100,7 @@ void CLuBaseWindow::ClientToScreen(POINT* pPoint) const {
 }
 
 void CLuBaseWindow::MoveWindow(int x, int y, int nWidth, int nHeight, BOOL) {
-    m_rc = RECT{x, y, x + std::max(0, nWidth), y + std::max(0, nHeight)};
+    m_rc = RECT{x, y, AddSaturated(x, std::max(0, nWidth)), AddSaturated(y, std::max(0, nHeight))};
 }
 
 BOOL CLuBaseWindow::SetWindowPos(const CLuBaseWindow* pInsertAfter, int x, int y, int cx, int cy,
@@ -182,6 +190,15 @@ int ParseAlign(const char* sz) {
     return n == LU_ALIGN_CENTER || n == LU_ALIGN_RIGHT ? n : LU_ALIGN_LEFT;
 }
 
+// Layout numbers are outside text: places and sizes are kept to what a screen can use, so that the drawing
+// code can add offsets to them freely.
+constexpr int LAYOUT_COORD_LIMIT = 1 << 20;
+constexpr int LAYOUT_FONT_LIMIT = 512;
+
+int LayoutCoord(int n) {
+    return std::clamp(n, -LAYOUT_COORD_LIMIT, LAYOUT_COORD_LIMIT);
+}
+
 bool ParseFlag(const char* sz) {
     return SafeAtoi(sz) != 0 || ::strcasecmp(sz, "true") == 0 || ::strcasecmp(sz, "yes") == 0;
 }
@@ -194,7 +211,7 @@ void CLuBaseWindow::ApplyLayout() {
     if (const char* sz = rec.GetValue("Rect")) {
         int v[4] = {0, 0, 0, 0};
         CLayoutFile::ReadNumbers(sz, v);
-        MoveWindow(v[0], v[1], v[2], v[3], FALSE);
+        MoveWindow(LayoutCoord(v[0]), LayoutCoord(v[1]), LayoutCoord(v[2]), LayoutCoord(v[3]), FALSE);
     }
     // Through the virtual setter, so that an edit cuts the text at its limit and puts its caret at the end.
     if (const char* sz = rec.GetValue("Text")) SetWindowTextA(sz);
@@ -202,6 +219,7 @@ void CLuBaseWindow::ApplyLayout() {
         int v[2] = {0, 0};
         const int n = CLayoutFile::ReadNumbers(sz, v);
         // NOTE: one number is the height; the width of a single-byte character is then half of it.
+        for (int& k : v) k = std::clamp(k, 0, LAYOUT_FONT_LIMIT);
         m_sizeFont = n >= 2 ? SIZE{v[0], v[1]} : SIZE{v[0] / 2, v[0]};
     }
     if (const char* sz = rec.GetValue("FontColor")) m_dwFontColor = static_cast<DWORD>(SafeStrtoul(sz, 16));
@@ -213,7 +231,7 @@ void CLuBaseWindow::ApplyLayout() {
     if (const char* sz = rec.GetValue("BackgroundOffset")) {
         int v[2] = {0, 0};
         CLayoutFile::ReadNumbers(sz, v);
-        m_ptBgOffset = POINT{v[0], v[1]};
+        m_ptBgOffset = POINT{LayoutCoord(v[0]), LayoutCoord(v[1])};
     }
     if (const char* sz = rec.GetValue("Frame")) m_nCurFrame = SafeAtoi(sz);
     if (const char* sz = rec.GetValue("Visible")) m_bVisible = ParseFlag(sz);

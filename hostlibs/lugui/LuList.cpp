@@ -9,6 +9,12 @@
 #include "Input.h"
 
 namespace LuGui {
+namespace {
+// Row places come from layout numbers (outside text): sums saturate instead of overflowing.
+LONG ClampToInt(long long n) {
+    return static_cast<LONG>(std::clamp<long long>(n, INT32_MIN, INT32_MAX));
+}
+} // namespace
 
 void CLuList::PreSetParam(int nType, bool bScrollButtons, bool bSlider, int nFlag1, int nFlag2) {
     m_nType = nType;
@@ -68,24 +74,26 @@ void CLuList::SetChooserAni(const char* szTitle, bool bOn) {
 
 RECT CLuList::RowRect(int nRow) const {
     const RECT rc = GetWindowRect();
-    const int nTop = rc.top + nRow * m_nRowHeight;
-    return RECT{rc.left, nTop, rc.right, nTop + m_nRowHeight};
+    // Rows far below a list's bottom are never drawn; their places only have to stay representable.
+    const long long nTop = static_cast<long long>(rc.top) + static_cast<long long>(nRow) * m_nRowHeight;
+    return RECT{rc.left, ClampToInt(nTop), rc.right, ClampToInt(nTop + m_nRowHeight)};
 }
 
 int CLuList::RowAt(POINT pt) const {
     if (!HitTest(pt)) return -1;
-    const int nRow = (pt.y - GetWindowRect().top) / m_nRowHeight;
+    const long long nRow = (static_cast<long long>(pt.y) - GetWindowRect().top) / m_nRowHeight;
     // A row cut by the bottom edge is not drawn, so it can be neither hovered nor clicked.
-    if (nRow >= GetCount() || RowRect(nRow).bottom > GetWindowRect().bottom) return -1;
+    if (nRow >= GetCount() || RowRect(static_cast<int>(nRow)).bottom > GetWindowRect().bottom) return -1;
     return nRow;
 }
 
 RECT CLuList::GetCloseRect(int nRow) const {
     if (m_ptDeleteMark.x < 0 || nRow < 0 || nRow >= GetCount()) return RECT{0, 0, 0, 0};
     const RECT rcRow = RowRect(nRow);
-    const int x = rcRow.left + m_ptDeleteMark.x;
-    const int y = rcRow.top + m_ptDeleteMark.y;
-    return RECT{x, y, x + DELETE_MARK_SIZE, y + DELETE_MARK_SIZE};
+    const long long x = static_cast<long long>(rcRow.left) + m_ptDeleteMark.x;
+    const long long y = static_cast<long long>(rcRow.top) + m_ptDeleteMark.y;
+    return RECT{ClampToInt(x), ClampToInt(y), ClampToInt(x + DELETE_MARK_SIZE),
+                ClampToInt(y + DELETE_MARK_SIZE)};
 }
 
 bool CLuList::OnDeleteMark(int nRow, POINT pt) const {
@@ -107,7 +115,8 @@ int CLuList::Show() {
         const bool bMarked = nRow == m_nHoverRow || nRow == m_nCurSel;
         if (bMarked && m_bChooserOn && !m_strChooser.empty())
             CGameGraphic::ShowAniRect(m_strBgAniFile.c_str(), m_strChooser.c_str(), 0, rcRow);
-        CMyBitmap::ShowString(rcRow.left + m_nFontOffsetX, rcRow.top + m_nFontOffsetY,
+        CMyBitmap::ShowString(ClampToInt(static_cast<long long>(rcRow.left) + m_nFontOffsetX),
+                              ClampToInt(static_cast<long long>(rcRow.top) + m_nFontOffsetY),
                               bMarked ? m_dwHighlightColor : m_dwNormalColor,
                               m_vecRows[static_cast<std::size_t>(nRow)].c_str(),
                               CMyBitmap::GetDefaultFontName(), nFont);

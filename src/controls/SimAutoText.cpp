@@ -34,6 +34,11 @@ struct SAttributes {
     int nStyle;
 };
 
+// Layout sums are made in 64 bits and stored saturated: fonts and widths come from texts and hosts.
+int ToInt(long long n) {
+    return static_cast<int>(std::clamp<long long>(n, INT32_MIN, INT32_MAX));
+}
+
 // Applies the tag name between "</" and ">"; false when the name is no tag (it is then laid out as text).
 bool ApplyTag(std::string_view name, SAttributes& attr, const SAttributes& defaults) {
     if (name.empty()) return false;
@@ -186,11 +191,11 @@ void CSimAutoText::Layout(std::string_view text, bool bWrap, bool bTags) {
     SAttributes attr = defaults;
     const bool bEnglish = std::strcmp(RoleDataQueryEx()->GetLanguageName(), ENGLISH_LANGUAGE) == 0;
     const std::size_t n = text.size();
-    int nLineMax = attr.nFontSize;
+    long long nLineMax = attr.nFontSize;
     int nLine = 0;
     long long x = 0;
-    int nLineWidth = 0;
-    int y = 0;
+    long long nLineWidth = 0;
+    long long y = 0;
     std::size_t nSegStart = 0;
     std::size_t nLineStart = 0;
     std::optional<std::size_t> current; // index of the open run
@@ -200,8 +205,9 @@ void CSimAutoText::Layout(std::string_view text, bool bWrap, bool bTags) {
                             static_cast<long long>(HalfWidthUnits(run.strText));
         return static_cast<int>(std::clamp<long long>(w, INT32_MIN, INT32_MAX));
     };
-    auto openRun = [&](const SAttributes& a, int nX, int nOffsetY) {
-        m_vecRuns.push_back(SAutoTextRun{a.dwColor, a.nFontSize, nX, nOffsetY, nLine, {}, a.nStyle});
+    auto openRun = [&](const SAttributes& a, long long nX, long long nOffsetY) {
+        m_vecRuns.push_back(
+            SAutoTextRun{a.dwColor, a.nFontSize, ToInt(nX), ToInt(nOffsetY), nLine, {}, a.nStyle});
         current = m_vecRuns.size() - 1;
     };
     // Gives the open run (or a new run with the default attributes) the text [nSegStart, nEnd); returns its
@@ -213,11 +219,11 @@ void CSimAutoText::Layout(std::string_view text, bool bWrap, bool bTags) {
         current.reset();
         return runWidth(run);
     };
-    auto addLine = [&](int nWidth) {
-        const SAutoTextLine line{0, y, nWidth, nLineMax + m_nLineSpacing};
+    auto addLine = [&](long long nWidth) {
+        const SAutoTextLine line{0, ToInt(y), ToInt(nWidth), ToInt(nLineMax + m_nLineSpacing)};
         m_vecLines.push_back(line);
         m_sizeText.cx = std::max(m_sizeText.cx, static_cast<LONG>(line.nWidth));
-        m_sizeText.cy += line.nHeight;
+        m_sizeText.cy = ToInt(static_cast<long long>(m_sizeText.cy) + line.nHeight);
     };
 
     std::size_t i = 0;
@@ -240,7 +246,7 @@ void CSimAutoText::Layout(std::string_view text, bool bWrap, bool bTags) {
                     attr = next;
                     if (attr.nFontSize > nLineMax) {
                         for (auto it = m_vecRuns.rbegin(); it != m_vecRuns.rend() && it->nLine == nLine; ++it)
-                            it->nOffsetY += attr.nFontSize - nLineMax;
+                            it->nOffsetY = ToInt(it->nOffsetY + attr.nFontSize - nLineMax);
                         nLineMax = attr.nFontSize;
                     }
                     openRun(attr, nLineWidth, nLineMax - attr.nFontSize);
@@ -250,7 +256,8 @@ void CSimAutoText::Layout(std::string_view text, bool bWrap, bool bTags) {
             }
         }
         const std::size_t nChar = CharLength(text, i);
-        const int nCharWidth = (nChar > 1 ? attr.nFontSize : attr.nFontSize / 2) + m_nCharSpacing;
+        const long long nCharWidth =
+            static_cast<long long>(nChar > 1 ? attr.nFontSize : attr.nFontSize / 2) + m_nCharSpacing;
         x += nCharWidth;
         const bool bNewline = text[i] == '\n' && m_nStrResMode == 0;
         if ((x <= m_nWidth || !bWrap) && !bNewline) {
@@ -293,10 +300,10 @@ void CSimAutoText::Align() {
         if (line.nWidth == 0) break;
         switch (m_nAlign) {
         case ALIGN_RIGHT:
-            line.nX = m_nWidth - line.nWidth;
+            line.nX = ToInt(static_cast<long long>(m_nWidth) - line.nWidth);
             break;
         case ALIGN_CENTER:
-            line.nX = m_nWidth / 2 - line.nWidth / 2;
+            line.nX = ToInt(static_cast<long long>(m_nWidth / 2) - line.nWidth / 2);
             break;
         default:
             line.nX = 0;
@@ -331,8 +338,8 @@ void CSimAutoText::DrawRun(const SAutoTextRun& run) const {
     if (RoleDataQueryEx()->IsEnglishOnly()) ConverCodeToOnlyEnglish(szText, sizeof szText);
 
     const SAutoTextLine& line = m_vecLines[static_cast<std::size_t>(run.nLine)];
-    const int x = m_ptPos.x + line.nX + run.nX;
-    const int y = m_ptPos.y + line.nY + run.nOffsetY;
+    const int x = ToInt(static_cast<long long>(m_ptPos.x) + line.nX + run.nX);
+    const int y = ToInt(static_cast<long long>(m_ptPos.y) + line.nY + run.nOffsetY);
     const char* szFont = RoleDataQueryEx()->MapFontName(CMyBitmap::GetDefaultFontName());
     if (m_nStrResMode != 0) {
         SIZE drawn{0, 0};
@@ -345,8 +352,8 @@ void CSimAutoText::DrawRun(const SAutoTextRun& run) const {
                                nullptr, nullptr);
     }
     if (run.nStyle == STYLE_UNDERLINE) {
-        const int nLineY = y + run.nFontSize + UNDERLINE_GAP;
-        const int nLength = static_cast<int>(HalfWidthUnits(szText)) * run.nFontSize / 2;
-        CMyBitmap::ShowLine(x, nLineY, x + nLength, nLineY, dwColor);
+        const int nLineY = ToInt(static_cast<long long>(y) + run.nFontSize + UNDERLINE_GAP);
+        const long long nLength = static_cast<long long>(HalfWidthUnits(szText)) * run.nFontSize / 2;
+        CMyBitmap::ShowLine(x, nLineY, ToInt(x + nLength), nLineY, dwColor);
     }
 }

@@ -212,9 +212,9 @@ BOOL CDlgNewFlashLogin::OnInitDialog() {
     m_chkSound.SetChecked(pSim->IsMusicOn());
     if (*pSim->GetVersion()) SetVersionText(pSim->GetVersion());
     RefreshTexts();
-    // NOTE: filling the inline panel for group m_nLastGroup - 1 only stores that group in the simulator;
+    // NOTE: filling the inline panel for the last group only stores that group in the simulator;
     // the panel itself stays hidden.
-    pSim->StoreCurGroup(m_nLastGroup - 1);
+    pSim->StoreCurGroup(ZeroBased(m_nLastGroup));
     m_listAccount.ShowWindow(SW_HIDE);
     m_bAccountListOpen = false;
     if (IsOpenInactive()) {

@@ -233,15 +233,15 @@ void CDlgNewFlashLogin::RestoreLastServer(int& nModel, int& nGroup, int& nServer
     }
     if (!strGroupName.empty() && !strServerName.empty()) {
         m_staServerLabel.SetWindowTextA(Label(strGroupName.c_str(), strServerName.c_str()).c_str());
-        m_nChosenGroup = nGroup - 1;
+        m_nChosenGroup = ZeroBased(nGroup);
         pSim->NotifyHostInt("CMD_SELECTGROUP", nGroup);
         pSim->NotifyHostInt("CMD_EX_SELECTSERVER", nServer);
         return;
     }
     m_staServerLabel.SetWindowTextA(Label(pSim->GetCurGroupName(), pSim->GetCurServerName()).c_str());
     m_nChosenGroup = pSim->GetCurGroup();
-    nGroup = pSim->GetCurGroup() + 1;
-    nServer = pSim->GetCurServer() + 1;
+    nGroup = OneBased(pSim->GetCurGroup());
+    nServer = OneBased(pSim->GetCurServer());
 }
 
 void CDlgNewFlashLogin::UpdateServerLabel() {
@@ -250,8 +250,8 @@ void CDlgNewFlashLogin::UpdateServerLabel() {
     m_nChosenGroup = pSim->GetCurGroup();
     m_staServerLabel.SetWindowTextA(Label(pSim->GetCurGroupName(), pSim->GetCurServerName()).c_str());
     PlaceLoadPicture(pSim->GetCurServerLoad(), false);
-    pSim->NotifyHostInt("CMD_SELECTGROUP", pSim->GetCurGroup() + 1);
-    pSim->NotifyHostInt("CMD_SELECTSERVER", pSim->GetCurServer() + 1);
+    pSim->NotifyHostIndex("CMD_SELECTGROUP", pSim->GetCurGroup());
+    pSim->NotifyHostIndex("CMD_SELECTSERVER", pSim->GetCurServer());
 }
 
 void CDlgNewFlashLogin::PlaceLoadPicture(float fLoad, bool bWithBonus) {

@@ -84,7 +84,7 @@ void CDlgSelectEdition::OnEdition(int nIndex) {
 void CDlgSelectEdition::OnRecord(int nSlot) {
     CFlashSimulator* pSim = FlashSim();
     const SQuickEntry* pEntry = pSim ? pSim->GetQuickEntry(nSlot) : nullptr;
-    if (pEntry) pSim->QuickSelect(pEntry->nModel, pEntry->nGroup - 1, pEntry->nServer - 1);
+    if (pEntry) pSim->QuickSelect(pEntry->nModel, ZeroBased(pEntry->nGroup), ZeroBased(pEntry->nServer));
 }
 
 void CDlgSelectEdition::OnDeleteRecord(int nSlot) {

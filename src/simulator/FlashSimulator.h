@@ -114,6 +114,8 @@ public:
     void NotifyHost(const char* szCommand, const char* szArgument);
     /// NotifyHost with a number as decimal text.
     void NotifyHostInt(const char* szCommand, int nValue);
+    /// NotifyHost with the one-based number of a 0-based index (host indices may be any int).
+    void NotifyHostIndex(const char* szCommand, int nIndex);
 
     // Live server lists (indices out of range answer 0, null or false).
     int GetGroupCount() const;

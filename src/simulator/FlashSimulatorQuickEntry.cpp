@@ -88,8 +88,8 @@ void CFlashSimulator::DeleteQuickEntry(int nIndex) {
 
 void CFlashSimulator::FillQuickEntry(SQuickEntry& entry) const {
     entry.nModel = m_nModel;
-    entry.nGroup = m_nGroup + 1;
-    entry.nServer = m_nServer + 1;
+    entry.nGroup = OneBased(m_nGroup);
+    entry.nServer = OneBased(m_nServer);
     const char* group = GetGroupName(m_nGroup);
     const char* server = GetServerName(m_nGroup, m_nServer);
     entry.strGroupName = group ? group : "";

@@ -1,6 +1,8 @@
 // The login chain: selection of model, group and server, the return path and the special-server signal.
 #include "simulator/FlashSimulator.h"
 
+#include <string>
+
 namespace {
 // Whether the last chosen server carried a special mark; lives as long as the library.
 bool g_bSpecialServer = false;
@@ -19,6 +21,10 @@ void CFlashSimulator::NotifyHostInt(const char* szCommand, int nValue) {
     NotifyHost(szCommand, SafeItoA(nValue, buf, sizeof buf, 10));
 }
 
+void CFlashSimulator::NotifyHostIndex(const char* szCommand, int nIndex) {
+    NotifyHost(szCommand, std::to_string(static_cast<long long>(nIndex) + 1).c_str());
+}
+
 void CFlashSimulator::OnSelectModel(int nModel) {
     m_nModel = nModel;
     m_dlgSelectEdition.ShowWindow(SW_HIDE);
@@ -34,13 +40,13 @@ void CFlashSimulator::OnSelectGroup(int nGroup) {
     m_dlgSelectGroup.ShowWindow(SW_HIDE);
     m_dlgSelectServer.ShowWindow(SW_SHOW);
     m_nLoginStep = LOGIN_STEP_SERVER;
-    NotifyHostInt("CMD_SELECTGROUP", nGroup + 1);
+    NotifyHostIndex("CMD_SELECTGROUP", nGroup);
 }
 
 void CFlashSimulator::OnSelectServer(int nServer) {
     m_nServer = nServer;
     m_dlgSelectServer.ShowWindow(SW_HIDE);
-    NotifyHostInt("CMD_SELECTSERVER", nServer + 1);
+    NotifyHostIndex("CMD_SELECTSERVER", nServer);
     m_dlgFlashLogin.ShowWindow(SW_SHOW);
     m_nLoginStep = LOGIN_STEP_CLASSIC_LOGIN;
     SendSpecialServerSignal(nServer);
@@ -58,19 +64,19 @@ void CFlashSimulator::SendSpecialServerSignal(int nServer) {
 
 void CFlashSimulator::SetGroup(int nGroup) {
     m_nGroup = nGroup;
-    NotifyHostInt("CMD_SELECTGROUP", nGroup + 1);
+    NotifyHostIndex("CMD_SELECTGROUP", nGroup);
 }
 
 void CFlashSimulator::SetServer(int nServer, bool bOutside) {
     m_nServer = nServer;
-    NotifyHostInt(bOutside ? "CMD_EX_SELECTSERVER" : "CMD_SELECTSERVER", nServer + 1);
+    NotifyHostIndex(bOutside ? "CMD_EX_SELECTSERVER" : "CMD_SELECTSERVER", nServer);
 }
 
 void CFlashSimulator::QuickSelect(int nModel, int nGroup, int nServer) {
     m_nModel = nModel;
     NotifyHostInt("CMD_SELECTMODEL", nModel);
     m_nGroup = nGroup;
-    NotifyHostInt("CMD_SELECTGROUP", nGroup + 1);
+    NotifyHostIndex("CMD_SELECTGROUP", nGroup);
     OnSelectServer(nServer);
 }
 

@@ -220,9 +220,9 @@ void CFlashSimulator::VarQuickLogin(const char* szValue) {
     m_nModel = v[0];
     NotifyHostInt("CMD_SELECTMODEL", v[0]);
     m_nGroup = v[1];
-    NotifyHostInt("CMD_SELECTGROUP", v[1] + 1);
+    NotifyHostIndex("CMD_SELECTGROUP", v[1]);
     m_nServer = v[2];
-    NotifyHostInt("CMD_EX_SELECTSERVER", v[2] + 1);
+    NotifyHostIndex("CMD_EX_SELECTSERVER", v[2]);
     m_dlgNewFlashLogin.UpdateServerLabel();
 }
 
@@ -234,7 +234,7 @@ void CFlashSimulator::VarPlayLogin(const char* szValue) {
     m_dlgSelectGroup.ShowWindow(SW_HIDE);
     m_dlgSelectServer.ShowWindow(SW_SHOW);
     m_nLoginStep = LOGIN_STEP_SERVER;
-    NotifyHostInt("CMD_SELECTGROUP", v[0] + 1);
+    NotifyHostIndex("CMD_SELECTGROUP", v[0]);
     OnSelectServer(v[1]);
 }
 

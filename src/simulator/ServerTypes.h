@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
 #include <vector>
 
 #include "platform/ZrString.h"
@@ -23,6 +24,15 @@ struct SServerGroup {
 };
 
 inline constexpr int MAX_QUICK_ENTRY_AMOUNT = 3;
+
+/// Group and server numbers travel 1-based, indices 0-based; the host may send any int, so the conversions
+/// saturate instead of overflowing.
+constexpr int OneBased(int nIndex) {
+    return nIndex == std::numeric_limits<int>::max() ? nIndex : nIndex + 1;
+}
+constexpr int ZeroBased(int nNumber) {
+    return nNumber == std::numeric_limits<int>::min() ? nNumber : nNumber - 1;
+}
 
 struct SQuickEntry {
     std::int32_t nModel = 0;
