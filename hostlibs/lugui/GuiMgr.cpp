@@ -179,6 +179,14 @@ void CGuiMgr::BringToTop(CLuDialog* pDialog) {
     m_vecDialogs.push_back(pDialog);
 }
 
+void CGuiMgr::ForgetDialog(CLuDialog* pDialog) {
+    std::erase(m_vecDialogs, pDialog);
+    std::erase_if(m_vecPending, [&](const SPendingActivation& p) { return p.pDialog == pDialog; });
+    if (m_pFocusEdit && m_pFocusEdit->GetParentDialog() == pDialog) m_pFocusEdit = nullptr;
+    if (m_pCaptureDialog == pDialog) m_pCaptureDialog = nullptr;
+    if (m_pAttentionDialog == pDialog) m_pAttentionDialog = nullptr;
+}
+
 CLuDialog* CGuiMgr::FindDialog(UINT nTemplateId) const {
     for (CLuDialog* pDialog : m_vecDialogs)
         if (pDialog->GetTemplateId() == nTemplateId) return pDialog;

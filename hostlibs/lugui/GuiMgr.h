@@ -33,6 +33,7 @@ public:
     HWND GetHostWindow() const override { return m_hHostWnd; }
     void OnDialogShown(CLuDialog* pDialog, bool bShown) override;
     void BringToTop(CLuDialog* pDialog) override;
+    void ForgetDialog(CLuDialog* pDialog) override;
 
     /// Dialogs in drawing order (bottom-most first; top-most dialogs after the others).
     std::vector<CLuDialog*> DrawingOrder() const;

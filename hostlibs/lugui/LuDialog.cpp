@@ -40,7 +40,9 @@ CLuDialog::CLuDialog(UINT nIDTemplate, CLuBaseWindow*) : m_nIDTemplate(nIDTempla
     m_nId = nIDTemplate;
 }
 
-CLuDialog::~CLuDialog() = default;
+CLuDialog::~CLuDialog() {
+    if (m_pGuiMgr) m_pGuiMgr->ForgetDialog(this);
+}
 
 // ---- overridable ---------------------------------------------------------------------------------
 

@@ -56,6 +56,8 @@ public:
     // ---- toolkit internals: dialogs report here ---------------------------------------------------
     virtual void OnDialogShown(CLuDialog* pDialog, bool bShown) = 0;
     virtual void BringToTop(CLuDialog* pDialog) = 0;
+    /// A registered dialog is being destroyed: the manager forgets it and its controls.
+    virtual void ForgetDialog(CLuDialog* pDialog) = 0;
 
 protected:
     ~ILuGuiMgr() = default;

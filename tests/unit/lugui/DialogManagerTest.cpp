@@ -331,5 +331,21 @@ TEST_F(DialogManagerTest, ReleaseLeavesTheCallersDialogsIntactAndDetached) {
     EXPECT_FALSE(m_dlg.IsWindowVisible());
 }
 
+TEST_F(DialogManagerTest, ADialogDestroyedBeforeItsManagerIsForgotten) {
+    Start(std::string(LAYOUT) + "\n[Dialog1903]\nRect = 900 700 50 50\n");
+    auto extra = std::make_unique<TestDialog>(1903);
+    Register(*extra);
+    Open(*extra);
+    EXPECT_NE(Press(910, 710), 0) << "the dialog takes presses on its rectangle";
+    Lift(910, 710);
+    extra.reset();
+    // Frames and messages after the destruction reach nothing (ASan reports any use of the dialog).
+    host::BeginFrame();
+    m_mgr->Process();
+    m_mgr->Show();
+    EXPECT_EQ(Press(910, 710), 0);
+    EXPECT_EQ(Lift(910, 710), 0);
+}
+
 } // namespace
 } // namespace luguitest
