@@ -246,7 +246,7 @@ void CSimAutoText::Layout(std::string_view text, bool bWrap, bool bTags) {
                     attr = next;
                     if (attr.nFontSize > nLineMax) {
                         for (auto it = m_vecRuns.rbegin(); it != m_vecRuns.rend() && it->nLine == nLine; ++it)
-                            it->nOffsetY = ToInt(it->nOffsetY + attr.nFontSize - nLineMax);
+                            it->nOffsetY = ToInt(static_cast<long long>(it->nOffsetY) + attr.nFontSize - nLineMax);
                         nLineMax = attr.nFontSize;
                     }
                     openRun(attr, nLineWidth, nLineMax - attr.nFontSize);
