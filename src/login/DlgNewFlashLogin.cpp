@@ -370,18 +370,18 @@ bool CDlgNewFlashLogin::EnsureAgreement() {
 }
 
 void CDlgNewFlashLogin::OnEnter() {
+    Login(true);
+}
+
+void CDlgNewFlashLogin::Login(bool bFromButton) {
     if (IsLocked()) return;
     CFlashSimulator* pSim = FlashSim();
     if (!pSim->IsPlatformModeA()) {
         if (!EnsureAgreement()) return;
         if (RoleDataQueryEn()->GetSetting("Check", 0) != 1) RoleDataQueryEn()->SetSetting("Check", 1);
     }
-    pSim->NotifyHost("CMD_RECORDACCOUNT", "");
-    SendLoginCommands(true);
-}
-
-void CDlgNewFlashLogin::SendLoginCommands(bool) {
-    CFlashSimulator* pSim = FlashSim();
+    // NOTE: the button sends the record command once more than the host's Enter key does.
+    if (bFromButton) pSim->NotifyHost("CMD_RECORDACCOUNT", "");
     pSim->NotifyHost(IsRememberChecked() ? "CMD_RECORDACCOUNT" : "CMD_CLEARACCOUNT", "");
     CommitGroupSelection();
     pSim->NotifyHost("BURYING_POINT", "115");

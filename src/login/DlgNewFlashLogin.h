@@ -89,6 +89,10 @@ public:
     void RestoreLastServer(int& nModel, int& nGroup, int& nServer);
     /// Shows the simulator's current group and server and tells the host.
     void UpdateServerLabel();
+    /// The login: the agreement (unless platform mode A), the account choice, the group chosen here, the
+    /// login event and the enter command. The enter button (bFromButton) sends one record command more than
+    /// the host's Enter key.
+    void Login(bool bFromButton);
     /// Hands the group chosen here to the simulator (before the enter command).
     void CommitGroupSelection();
     void ShowTokenRow(bool bShow);
@@ -137,7 +141,6 @@ private:
     static bool IsLocked();
     static bool IsPlatformModeActive();
     bool EnsureAgreement();
-    void SendLoginCommands(bool bFromButton);
     void OpenRegisterPage(bool bFromClick);
     void RefreshTexts();
     void UpdateAgreementRow(DWORD dwColour);

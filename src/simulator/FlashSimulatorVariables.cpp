@@ -320,18 +320,7 @@ void CFlashSimulator::VarSetKeyDown(const char* szValue) {
 }
 
 void CFlashSimulator::OnAccountLoginKey() {
-    if (m_bRegisterOpen) return;
-    if (!m_bPlatformModeA) {
-        if (!m_dlgNewFlashLogin.IsAgreementChecked()) {
-            SetVariable("SetLoginError", GetStr(STR_AGREEMENT_NOT_TICKED));
-            return;
-        }
-        if (RoleDataQueryEn()->GetSetting("Check", 0) != 1) RoleDataQueryEn()->SetSetting("Check", 1);
-    }
-    NotifyHost(m_dlgNewFlashLogin.IsRememberChecked() ? "CMD_RECORDACCOUNT" : "CMD_CLEARACCOUNT", "");
-    m_dlgNewFlashLogin.CommitGroupSelection();
-    NotifyHost("BURYING_POINT", "115");
-    NotifyHost("CMD_ENTERGAME", "0");
+    m_dlgNewFlashLogin.Login(false);
 }
 
 void CFlashSimulator::VarQrCodeLogin(const char*) {
