@@ -1,4 +1,8 @@
 // Fuzzes the auto-text layout and drawing: parameters from the first bytes, the rest is the text.
+//
+// Input: a flag byte (1 wrap, 2 tags, 4 string-resource mode, 8 English, 16 English-only, 32/64 line
+// spacing), an align byte (modulo 3), then width, font size and character spacing as 32-bit integers, then
+// the text.
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -9,6 +13,12 @@
 #include "hostlibs/HostEnv.h"
 
 namespace {
+std::uint8_t ReadByte(const std::uint8_t*& data, std::size_t& size) {
+    if (size == 0) return 0;
+    --size;
+    return *data++;
+}
+
 int ReadInt(const std::uint8_t*& data, std::size_t& size) {
     std::int32_t value = 0;
     const std::size_t n = size < sizeof value ? size : sizeof value;
@@ -25,9 +35,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         return true;
     }();
     (void)bInit;
-    if (size < 1) return 0;
-    const std::uint8_t flags = *data++;
-    --size;
+    const std::uint8_t flags = ReadByte(data, size);
+    const std::uint8_t align = ReadByte(data, size);
     const int nWidth = ReadInt(data, size);
     const int nFont = ReadInt(data, size);
     const int nSpacing = ReadInt(data, size) % 64;
@@ -40,11 +49,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     text.SetCharSpacing(nSpacing);
     text.SetLineSpacing((flags >> 5) & 3);
     text.SetStrResMode((flags & 4) ? 1u : 0u);
-    text.SetAlign(flags % 3);
+    text.SetAlign(align % 3);
     const std::string body(reinterpret_cast<const char*>(data), size);
-    text.SetText(body.c_str(), (flags & 1) != 0, (flags & 2) != 0);
+    if (text.SetText(body.c_str(), (flags & 1) != 0, (flags & 2) != 0) != 1) __builtin_trap();
+    if (text.GetWidth() < nFont) __builtin_trap();
+    // Runs belong to laid-out lines, except those of the line an oversized font cut short.
     for (const SAutoTextRun& run : text.GetRuns())
-        if (run.strText.size() > CSimAutoText::MAX_RUN_TEXT) __builtin_trap();
+        if (run.strText.size() > CSimAutoText::MAX_RUN_TEXT || run.nLine < 0 ||
+            run.nLine > text.GetLineCount())
+            __builtin_trap();
     host::BeginFrame();
     text.ShowAt(3, 4);
     return 0;

@@ -37,6 +37,15 @@ public:
     static constexpr int STYLE_PLAIN = 0;
     static constexpr int STYLE_BLINK = 1;
     static constexpr int STYLE_UNDERLINE = 2;
+    /// Colours of the named colour tags ("</#B>" ...).
+    static constexpr DWORD COLOR_BLUE = 0xFF0000FF;
+    static constexpr DWORD COLOR_GREEN = 0xFF00FF00;
+    static constexpr DWORD COLOR_BLACK = 0xFF000000;
+    static constexpr DWORD COLOR_RED = 0xFFFF0000;
+    static constexpr DWORD COLOR_WHITE = 0xFFFFFFFF;
+    static constexpr DWORD COLOR_YELLOW = 0xFFFFFF00;
+    /// Blinking runs show their colour for the first half of each period, its complement for the second.
+    static constexpr DWORD BLINK_PERIOD_MS = 500;
 
     CSimAutoText();
     CSimAutoText(POINT pt, const char* szText, bool bWrap, bool bTags);
@@ -70,13 +79,14 @@ public:
     SIZE GetTextSize() const { return m_sizeText; }
     int GetWidth() const { return m_nWidth; }
     int GetFontSize() const { return m_nFontSize; }
+    int GetAlign() const { return m_nAlign; }
     const std::vector<SAutoTextRun>& GetRuns() const { return m_vecRuns; }
     const std::vector<SAutoTextLine>& GetLines() const { return m_vecLines; }
 
 private:
     void Layout(std::string_view text, bool bWrap, bool bTags);
     void Align();
-    void DrawRun(const SAutoTextRun& run) const;
+    void DrawRun(const SAutoTextRun& run, const char* szFont, bool bEnglishOnly, bool bBlinkInverted) const;
 
     POINT m_ptPos{0, 0};
     std::vector<SAutoTextRun> m_vecRuns;
