@@ -208,12 +208,6 @@ TEST_F(ControlWrappersTest, EmptyEffectNamesAreReportedAndIgnored) {
     EXPECT_EQ(testlog::Count("MSG", "ASSERT(FALSE) in "), 4);
 }
 
-TEST_F(ControlWrappersTest, ButtonWithoutLayoutKeepsItsDefaults) {
-    EXPECT_EQ(m_dlg.m_bareButton.GetLayoutRecord(), nullptr);
-    EXPECT_STREQ(m_dlg.m_bareButton.GetSubGround(), "");
-    EXPECT_EQ(m_dlg.m_bareButton.PreInitData(), TRUE);
-}
-
 // ---- edits ---------------------------------------------------------------------------------------
 
 TEST_F(ControlWrappersTest, EditWithoutLayoutFailsToInitialise) {
@@ -379,14 +373,6 @@ TEST_F(ControlWrappersTest, CentredMultiLineStaticIsLaidOutCentredWithTags) {
     EXPECT_STREQ(buf, "ab");
     label.SetWindowTextA("");
     EXPECT_TRUE(DrawControl(label).empty());
-}
-
-TEST_F(ControlWrappersTest, DialogFrameDrawsEveryVisibleControl) {
-    const std::string frame = Frame();
-    EXPECT_NE(frame.find("Btn"), std::string::npos);
-    EXPECT_NE(frame.find("\"Go\""), std::string::npos);
-    m_dlg.ShowWindow(SW_HIDE);
-    EXPECT_EQ(Frame(), "");
 }
 
 } // namespace

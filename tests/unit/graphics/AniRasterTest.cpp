@@ -65,33 +65,5 @@ TEST_F(AniRasterTest, NineFramesKeepTheirCornersAndStretchTheRest) {
     EXPECT_EQ(Pixel(29, 22), kBackground);
 }
 
-TEST_F(AniRasterTest, OnePictureIsCutByItsBorderInsets) {
-    WriteBmp("pic/panel.bmp", 3, 3, [](int x, int y) {
-        if (x == 1 && y == 1) return kBlue;
-        return (x == 1 || y == 1) ? kGreen : kRed;
-    });
-    m_dir.Write("ani/Control.ani", "[Panel]\nBorder=1,1,1,1\nFrame0=pic/panel.bmp\n");
-    ASSERT_TRUE(CGameGraphic::ShowNineImageBackGround("Panel", 0, 0, 9, 7));
-    EXPECT_EQ(Pixel(0, 0), kRed);
-    EXPECT_EQ(Pixel(8, 6), kRed);
-    EXPECT_EQ(Pixel(1, 0), kGreen);
-    EXPECT_EQ(Pixel(7, 0), kGreen);
-    EXPECT_EQ(Pixel(0, 3), kGreen);
-    EXPECT_EQ(Pixel(1, 1), kBlue);
-    EXPECT_EQ(Pixel(7, 5), kBlue);
-}
-
-TEST_F(AniRasterTest, CornersLargerThanTheAreaShrinkInProportion) {
-    m_dir.Write("ani/Control.ani",
-                "[Nine]\n"
-                "Frame0=box 6 6 FFFF0000\nFrame1=box 1 6 FF00FF00\nFrame2=box 2 6 FF0000FF\n"
-                "Frame3=box 6 1 FF00FF00\nFrame4=box 1 1 FF00FF00\nFrame5=box 2 1 FF00FF00\n"
-                "Frame6=box 6 2 FFFF0000\nFrame7=box 1 2 FF00FF00\nFrame8=box 2 2 FF0000FF\n");
-    ASSERT_TRUE(CGameGraphic::ShowNineImageBackGround("Nine", 0, 0, 4, 4));
-    EXPECT_EQ(Pixel(2, 0), kRed) << "6 of 8 columns become 3 of 4";
-    EXPECT_EQ(Pixel(3, 0), kBlue);
-    EXPECT_EQ(Pixel(4, 0), kBackground);
-}
-
 } // namespace
 } // namespace gfxtest

@@ -71,27 +71,6 @@ TEST_F(AnimationIndexTest, MalformedEntriesAreSkippedAndReportedOnce) {
     EXPECT_EQ(IndexComplaints(), 15) << "a file is parsed and reported once";
 }
 
-TEST_F(AnimationIndexTest, FramesLeftOutInBetweenAreEmpty) {
-    m_dir.Write("ani/Gap.ani", "[G]\nFrame3=box 4 4 FF000000\nFrame0=box 2 2 FF000000\n");
-    CMyAni* ani = QueryMyAniMgr()->QueryAni("ani/Gap.ani", "G");
-    ASSERT_NE(ani, nullptr);
-    EXPECT_EQ(ani->GetFrameAmount(), 4);
-    EXPECT_EQ(ani->GetSize(1).cx, 0);
-    EXPECT_FALSE(ani->Show(1, 0, 0));
-    EXPECT_TRUE(ani->Show(3, 0, 0));
-    EXPECT_EQ(host::DumpRecordedOps(), "ani ani/Gap.ani:G#3 0,0 4x4 a=255\n");
-}
-
-TEST_F(AnimationIndexTest, RepeatedTitleKeepsItsFirstSection) {
-    m_dir.Write("ani/Twice.ani",
-                "[T]\nFrame0=box 1 1 FF000000\n[t]\nFrame0=box 9 9 FF000000\nFrame1=box 9 9 FF000000\n");
-    CMyAni* ani = QueryMyAniMgr()->QueryAni("ani/Twice.ani", "T");
-    ASSERT_NE(ani, nullptr);
-    EXPECT_EQ(ani->GetFrameAmount(), 1);
-    EXPECT_EQ(ani->GetSize(0).cx, 1);
-    EXPECT_EQ(IndexComplaints(), 1);
-}
-
 TEST_F(AnimationIndexTest, FileAndTitleAreFoundWhateverTheirCase) {
     m_dir.Write("Ani/Control.ani", "[NewLogin_HookPic]\nFrame0=box 8 8 FF000000\n");
     for (const char* file : {"ani/control.ani", "ANI\\CONTROL.ANI", "./Ani/Control.ani"}) {
@@ -99,16 +78,6 @@ TEST_F(AnimationIndexTest, FileAndTitleAreFoundWhateverTheirCase) {
     }
     EXPECT_TRUE(QueryMyAniMgr()->HasAni("ani/Control.ani", "NEWLOGIN_HOOKPIC"));
     EXPECT_FALSE(QueryMyAniMgr()->HasAni("ani/Control.ani", "NewLogin_HookPic2"));
-}
-
-TEST_F(AnimationIndexTest, GameDataSetHandsOutTheSameAnimations) {
-    m_dir.Write("ani/control.ani", "[DialogNorMsg]\nFrame0=box 1 1 80000000\n");
-    CMyAni* fromSet = GameDataSetQuery()->GetDataAni("ani/Control.ani", "DialogNorMsg", 1, 30000, 0);
-    ASSERT_NE(fromSet, nullptr);
-    EXPECT_EQ(fromSet, QueryMyAniMgr()->QueryAni("ani/control.ani", "dialognormsg"));
-    EXPECT_TRUE(fromSet->ShowStretch(0, {0, 0, kScreenWidth, kScreenHeight}));
-    EXPECT_EQ(host::DumpRecordedOps(), "ani ani/Control.ani:DialogNorMsg#0 0,0 64x48 a=255\n");
-    EXPECT_EQ(GameDataSetQuery()->GetDataAni("ani/Control.ani", "Nope"), nullptr);
 }
 
 TEST_F(AnimationIndexTest, ParsedFilesAreKeptUntilTheCachesAreCleared) {

@@ -31,23 +31,6 @@ protected:
     CGui3DEffect* m_effect = nullptr;
 };
 
-TEST_F(Gui3DEffectTest, EffectsAreAddedOnceTestedDeletedAndCleared) {
-    EXPECT_FALSE(m_effect->Add("", 1, 1));
-    EXPECT_FALSE(m_effect->Add(nullptr, 1, 1));
-    EXPECT_TRUE(m_effect->Add("Sparkle", 1, 1));
-    EXPECT_TRUE(m_effect->Add("Sparkle", 1, 1));
-    EXPECT_TRUE(m_effect->Add("acherico", 1, 1));
-    EXPECT_EQ(m_effect->GetAmount(), 2);
-    EXPECT_TRUE(m_effect->TestEffect("Sparkle"));
-    EXPECT_FALSE(m_effect->TestEffect("sparkle")) << "effect names are exact";
-    EXPECT_TRUE(m_effect->Delete("Sparkle"));
-    EXPECT_FALSE(m_effect->Delete("Sparkle"));
-    EXPECT_FALSE(m_effect->TestEffect("Sparkle"));
-    m_effect->Clear();
-    EXPECT_EQ(m_effect->GetAmount(), 0);
-    EXPECT_EQ(m_effect->GetShowRect().right, 340);
-}
-
 TEST_F(Gui3DEffectTest, EffectPlaysItsFramesCentredInTheShowRectangleThenEnds) {
     m_effect->Add("Sparkle", 1, 1);
     EXPECT_EQ(ShowOnce(6, 8), "effect Sparkle#0 21,13 10x10\n");

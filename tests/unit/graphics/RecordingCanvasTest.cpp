@@ -44,13 +44,6 @@ TEST_F(RecordingCanvasTest, PrimitivesDumpAsStableLinesInDrawingOrder) {
     EXPECT_EQ(host::DumpRecordedOps(), expected);
 }
 
-TEST_F(RecordingCanvasTest, BeginFrameStartsAnEmptyRecording) {
-    CMyBitmap::ShowBlock({0, 0, 5, 5}, 0xFFFFFFFF);
-    ASSERT_EQ(host::GetRecordedOps().size(), 1u);
-    host::BeginFrame();
-    EXPECT_TRUE(host::GetRecordedOps().empty());
-}
-
 TEST_F(RecordingCanvasTest, OperationsWhollyOutsideTheClipAreNotRecorded) {
     const RECT clip{10, 10, 20, 20};
     CMyBitmap::SetClipRect(&clip);
@@ -69,19 +62,6 @@ TEST_F(RecordingCanvasTest, OperationsWhollyOutsideTheClipAreNotRecorded) {
 TEST_F(RecordingCanvasTest, AnimationFrameIsOneOperationNotItsShapes) {
     EXPECT_TRUE(CGameGraphic::ShowCtrlAni("btn", 5, 6, 1));
     EXPECT_EQ(host::DumpRecordedOps(), "ani ani/Control.ani:Btn#1 5,6 40x20 a=255\n");
-}
-
-TEST_F(RecordingCanvasTest, ScaledAndStretchedFramesRecordTheirDrawnSize) {
-    CMyAni* ani = QueryMyAniMgr()->QueryAni("ani/control.ani", "Btn");
-    ASSERT_NE(ani, nullptr);
-    EXPECT_TRUE(ani->Show(0, 0, 0, 1.5f, 0.5f));
-    EXPECT_TRUE(ani->ShowStretch(0, {10, 10, 74, 58}, 128));
-    EXPECT_FALSE(ani->Show(0, 0, 0, 0.0f, 1.0f)) << "a zero scale draws nothing";
-    ani->Release();
-    EXPECT_TRUE(CGameGraphic::ShowAniRect("ani/Control.ani", "Panel", 0, {1, 2, 3, 4}));
-    EXPECT_EQ(host::DumpRecordedOps(), "ani ani/control.ani:Btn#0 0,0 60x10 a=255\n"
-                                       "ani ani/control.ani:Btn#0 10,10 64x48 a=128\n"
-                                       "ani ani/Control.ani:Panel#0 1,2 2x2 a=255\n");
 }
 
 TEST_F(RecordingCanvasTest, MissingArtDrawsNothingAndRecordsNothing) {
@@ -114,19 +94,6 @@ TEST_F(RecordingCanvasTest, NinePatchAndStringResourcesAreRecordedWhole) {
                                        "strresui ani/control.ani:LangTips#0 3,4 50x10 a=255\n"
                                        "strresui ani/control.ani:LangTips#0 3,4 20x8 a=255\n" +
                                            strres);
-}
-
-TEST_F(RecordingCanvasTest, StringResourceTextBreaksAtItsWidthLimit) {
-    SIZE whole{};
-    CGameGraphic::ShowStrRes(0, 0, "aaaa bbbb cccc", 1, nullptr, 14, 0xFFFFFFFF, 0, 0, nullptr, nullptr, 0, 3,
-                             0, false, &whole);
-    SIZE limited{};
-    const int lines = CGameGraphic::ShowStrRes(0, 0, "aaaa bbbb cccc", 1, nullptr, 14, 0xFFFFFFFF, 0,
-                                               whole.cx / 2, nullptr, nullptr, 0, 3, 0, false, &limited);
-    EXPECT_GE(lines, 2);
-    EXPECT_LE(limited.cx, whole.cx / 2);
-    EXPECT_EQ(limited.cy, lines * 14 + (lines - 1) * 2);
-    EXPECT_TRUE(host::GetRecordedOps().empty()) << "measuring draws nothing";
 }
 
 TEST_F(RecordingCanvasTest, RecordingStopsAtItsLimitAndCountsTheRest) {

@@ -161,26 +161,6 @@ TEST_F(MainLoginTest, AccountListChoosesAndForgetsAccounts) {
     EXPECT_EQ(m_sim->GetConfirmDialog().GetType(), CDlgFlashConfirm::TYPE_CLEAR_ACCOUNT);
 }
 
-TEST_F(MainLoginTest, CreationLinkAppearsAfterTenEmptySecondsAndGoesWithText) {
-    Start();
-    auto frame = [this](DWORD ms) {
-        host::AdvanceClock(ms);
-        m_sim->Show();
-    };
-    frame(9999);
-    EXPECT_FALSE(Ctrl(CDlgNewFlashLogin::IDC_CREATE_LINK).IsWindowVisible());
-    frame(1);
-    EXPECT_TRUE(Ctrl(CDlgNewFlashLogin::IDC_CREATE_LINK).IsWindowVisible());
-    Set("VAR_LOGINUSER", "h");
-    frame(16);
-    EXPECT_FALSE(Ctrl(CDlgNewFlashLogin::IDC_CREATE_LINK).IsWindowVisible());
-    Set("VAR_LOGINUSER", "");
-    frame(9000);
-    EXPECT_FALSE(Ctrl(CDlgNewFlashLogin::IDC_CREATE_LINK).IsWindowVisible());
-    frame(1000);
-    EXPECT_TRUE(Ctrl(CDlgNewFlashLogin::IDC_CREATE_LINK).IsWindowVisible());
-}
-
 TEST_F(MainLoginTest, HostFocusMovesTheCaretToTheEndAndSelectionEdgesRoundTrip) {
     Start();
     Set("VAR_LOGINPASS", "secret");

@@ -103,18 +103,6 @@ TEST_F(DialogManagerTest, ButtonClickRunsItsHandlerOnlyWhenReleasedOnIt) {
     EXPECT_THAT(m_dlg.TakeCalls(), IsEmpty()) << "pressed outside the button";
 }
 
-TEST_F(DialogManagerTest, DisabledButtonIgnoresClicks) {
-    Start();
-    Open(m_dlg);
-    EXPECT_FALSE(m_dlg.m_button.EnableWindow(FALSE)) << "it was not disabled before";
-    ClickOn(m_dlg.m_button);
-    EXPECT_FALSE(m_dlg.m_button.IsPressed());
-    EXPECT_THAT(m_dlg.TakeCalls(), IsEmpty());
-    EXPECT_TRUE(m_dlg.m_button.EnableWindow(TRUE));
-    ClickOn(m_dlg.m_button);
-    EXPECT_THAT(m_dlg.TakeCalls(), Contains("OnButton"));
-}
-
 TEST_F(DialogManagerTest, CheckBoxTogglesBeforeItsCommand) {
     Start();
     Open(m_dlg);
@@ -190,19 +178,6 @@ TEST_F(DialogManagerTest, PreTranslateMessageCanStopAMessage) {
     EXPECT_THAT(m_dlg.TakeCalls(), IsEmpty());
 }
 
-TEST_F(DialogManagerTest, ReleaseGoesToTheDialogThatTookThePress) {
-    Start();
-    Open(m_dlg);
-    Open(m_other);
-    const POINT pt = Centre(m_other.m_button);
-    Press(pt.x, pt.y);
-    Lift(ONLY_MAIN.x, ONLY_MAIN.y);
-    EXPECT_THAT(m_other.TakePreTranslated(), ElementsAre(WM_LBUTTONDOWN, WM_LBUTTONUP));
-    EXPECT_THAT(m_dlg.TakePreTranslated(), IsEmpty());
-    EXPECT_FALSE(m_other.m_button.IsPressed());
-    EXPECT_THAT(m_other.TakeCalls(), IsEmpty());
-}
-
 TEST_F(DialogManagerTest, KeysWithoutAFocusedEditGoToTheDialogPressedLastElseTheUpperOne) {
     Start();
     Open(m_dlg);
@@ -237,17 +212,6 @@ TEST_F(DialogManagerTest, PressElsewhereTellsThePreviouslyPressedDialog) {
     EXPECT_THAT(m_other.TakeCalls(), IsEmpty()) << "the empty screen had the attention, not 2001";
 }
 
-TEST_F(DialogManagerTest, HiddenDialogIsNotToldThatThePressMovedAway) {
-    Start();
-    Open(m_dlg);
-    Open(m_other);
-    Click(ONLY_MAIN);
-    m_dlg.ShowWindow(SW_HIDE);
-    m_dlg.TakeCalls();
-    Click(ONLY_OTHER);
-    EXPECT_THAT(m_dlg.TakeCalls(), IsEmpty());
-}
-
 TEST_F(DialogManagerTest, DialogOpeningInactiveIsActivatedOnceAfterItsDelay) {
     Start(LayoutWith("Dialog2001", "OpenInactive = 300\n"));
     host::SetClock(5000);
@@ -273,19 +237,6 @@ TEST_F(DialogManagerTest, DialogOpeningInactiveIsActivatedOnceAfterItsDelay) {
     host::AdvanceClock(300);
     m_mgr->Process();
     EXPECT_THAT(m_other.TakeCalls(), ElementsAre("WindowProc 10027 0 0"));
-}
-
-TEST_F(DialogManagerTest, DialogHiddenBeforeItsDelayIsNotActivated) {
-    Start(LayoutWith("Dialog2001", "OpenInactive = 300\n"));
-    Open(m_dlg);
-    m_other.ShowWindow(SW_SHOW);
-    m_other.ShowWindow(SW_HIDE);
-    m_other.TakeCalls();
-    host::AdvanceClock(1000);
-    m_mgr->Process();
-    EXPECT_THAT(m_other.TakeCalls(), IsEmpty());
-    EXPECT_THAT(m_dlg.TakeCalls(), Not(Contains("WindowProc 10027 0 0"))) << "2000 never opens inactive";
-    EXPECT_FALSE(m_dlg.IsOpenInactive());
 }
 
 // ---- reset and release -----------------------------------------------------------------------------

@@ -63,24 +63,6 @@ TEST_F(EditTest, PressGivesTheFocusUntilAnotherEditTakesItOrTheDialogHides) {
     EXPECT_EQ(m_mgr->GetFocusEdit(), nullptr);
 }
 
-TEST_F(EditTest, KeysGoToTheFocusedEditEvenAfterAPressOnAnotherDialog) {
-    FocusEdit();
-    Open(m_other); // now over the edit's dialog
-    Click(440, 290);
-    Type('z');
-    EXPECT_EQ(Text(), "z");
-    EXPECT_STREQ(m_other.m_edit.GetWindowTextA(), "");
-}
-
-TEST_F(EditTest, DisabledEditNeitherTakesTheFocusNorTypes) {
-    m_dlg.m_edit.EnableWindow(FALSE);
-    ClickOn(m_dlg.m_edit);
-    EXPECT_FALSE(m_dlg.m_edit.IsFocus());
-    m_dlg.m_edit.SetFocus();
-    Type('a');
-    EXPECT_EQ(Text(), "") << "the manager drops the focus of a disabled edit";
-}
-
 // ---- typing ----------------------------------------------------------------------------------------
 
 TEST_F(EditTest, TypedCharactersAreStoredAsUtf8) {
@@ -116,30 +98,6 @@ TEST_F(EditTest, BackspaceRemovesAWholeCharacter) {
     Type(VK_BACK);
     EXPECT_EQ(Text(), "");
     EXPECT_THAT(m_dlg.m_edit.TakeNotes(), IsEmpty()) << "nothing to delete, nothing to tell";
-}
-
-TEST_F(EditTest, TypingReplacesTheSelection) {
-    FocusEdit();
-    m_dlg.m_edit.SetWindowTextA("hello");
-    m_dlg.m_edit.SetSel(1, 4);
-    Type('a');
-    EXPECT_EQ(Text(), "hao");
-    EXPECT_EQ(SelStart(), 2);
-    m_dlg.m_edit.SetSel(0, 3);
-    Type(VK_BACK);
-    EXPECT_EQ(Text(), "");
-}
-
-TEST_F(EditTest, ReadOnlyEditRefusesTyping) {
-    FocusEdit();
-    m_dlg.m_edit.SetWindowTextA("fixed");
-    m_dlg.m_edit.SetReadOnly(true);
-    Type('x');
-    Type(VK_BACK);
-    Key(VK_DELETE);
-    EXPECT_EQ(Text(), "fixed");
-    Key(VK_HOME);
-    EXPECT_EQ(SelEnd(), 0) << "the caret still moves";
 }
 
 // ---- the byte limit --------------------------------------------------------------------------------
@@ -184,26 +142,7 @@ TEST_F(EditTest, SetWindowTextCutsAtTheLimitBetweenCharacters) {
     EXPECT_EQ(Text(), "");
 }
 
-TEST_F(EditTest, GetWindowTextCopiesAtMostTheBuffer) {
-    m_dlg.m_edit.SetWindowTextA("abcdef");
-    char buf[4] = {'x', 'x', 'x', 'x'};
-    EXPECT_EQ(m_dlg.m_edit.GetWindowText(buf, sizeof buf), 3);
-    EXPECT_STREQ(buf, "abc");
-    EXPECT_EQ(m_dlg.m_edit.GetWindowText(buf, 0), 0);
-    EXPECT_EQ(m_dlg.m_edit.GetWindowText(nullptr, 4), 0);
-}
-
 // ---- selection and keys ----------------------------------------------------------------------------
-
-TEST_F(EditTest, SelectionIsPackedStartLowEndHighAndKeptInOrder) {
-    LuGui::CLuEdit& edit = m_dlg.m_edit;
-    edit.SetWindowTextA("hello world");
-    edit.SetSel(7, 3);
-    EXPECT_EQ(edit.GetSel(), (DWORD{7} << 16) | 3u);
-    edit.SetSel(-4, 99);
-    EXPECT_EQ(SelStart(), 0);
-    EXPECT_EQ(SelEnd(), 11);
-}
 
 TEST_F(EditTest, CaretKeysStepOverWholeCharacters) {
     FocusEdit();
@@ -260,48 +199,6 @@ TEST_F(EditTest, PasswordEditDrawsOneStarPerCharacter) {
     EXPECT_EQ(texts[0].text, "***");
     EXPECT_EQ(texts[0].size, 16);
     EXPECT_EQ(Text(), std::string("a") + E_ACUTE + GRIN) << "only the drawing hides the text";
-}
-
-TEST_F(EditTest, FocusedEditDrawsABlinkingCaretAfterTheText) {
-    const RECT rc = m_dlg.m_edit.GetWindowRect();
-    m_dlg.m_edit.SetWindowTextA("ab");
-    host::SetClock(2000);
-    EXPECT_TRUE(OpsOfKind(Draw(m_dlg.m_edit), "line").empty()) << "no caret without the focus";
-
-    FocusEdit();
-    std::vector<host::DrawOp> lines = OpsOfKind(Draw(m_dlg.m_edit), "line");
-    ASSERT_EQ(lines.size(), 1u);
-    const host::DrawOp text = OpsOfKind(Draw(m_dlg.m_edit), "text").at(0);
-    EXPECT_EQ(lines[0].x, text.x + CMyBitmap::GetStringWidth("ab", 16));
-    EXPECT_GT(lines[0].x, rc.left);
-    EXPECT_EQ(lines[0].y, text.y);
-    EXPECT_EQ(lines[0].w, 0) << "upright";
-    EXPECT_EQ(lines[0].h, 16 - 1);
-
-    host::AdvanceClock(499);
-    EXPECT_EQ(OpsOfKind(Draw(m_dlg.m_edit), "line").size(), 1u);
-    host::AdvanceClock(1);
-    EXPECT_TRUE(OpsOfKind(Draw(m_dlg.m_edit), "line").empty()) << "off for the second half-second";
-    host::AdvanceClock(500);
-    EXPECT_EQ(OpsOfKind(Draw(m_dlg.m_edit), "line").size(), 1u);
-
-    Key(VK_HOME);
-    lines = OpsOfKind(Draw(m_dlg.m_edit), "line");
-    ASSERT_EQ(lines.size(), 1u);
-    EXPECT_EQ(lines[0].x, text.x) << "the caret follows the selection";
-}
-
-TEST_F(EditTest, FocusedEditShadesItsSelectionUnderTheText) {
-    m_dlg.m_edit.SetWindowTextA("abcd");
-    m_dlg.m_edit.SetSel(1, 3);
-    EXPECT_TRUE(OpsOfKind(Draw(m_dlg.m_edit), "block").empty()) << "no shading without the focus";
-    m_dlg.m_edit.SetFocus();
-    const std::vector<host::DrawOp> ops = Draw(m_dlg.m_edit);
-    ASSERT_GE(ops.size(), 2u);
-    EXPECT_EQ(ops[0].kind, "block");
-    EXPECT_EQ(ops[1].kind, "text");
-    EXPECT_EQ(ops[0].x, ops[1].x + CMyBitmap::GetStringWidth("a", 16));
-    EXPECT_EQ(ops[0].w, CMyBitmap::GetStringWidth("abc", 16) - CMyBitmap::GetStringWidth("a", 16));
 }
 
 } // namespace

@@ -74,39 +74,6 @@ TEST_F(LayoutFileTest, MissingLanguageFileFallsBackToTheDefaultFile) {
     EXPECT_STREQ(m_dlg.m_button.GetWindowTextA(), "Default");
 }
 
-TEST_F(LayoutFileTest, PresentLanguageFileIsReadInsteadOfTheDefault) {
-    m_dir.Write("FlashGui.ini", "[Dialog2000.10]\nText = Default\n");
-    m_dir.Write("FlashGui_3.ini", "[Dialog2000.10]\nText = Language\n");
-    EXPECT_TRUE(StartManager("FlashGui_3.ini"));
-    EXPECT_EQ(testlog::Count("MSG", "layout"), 0);
-    Register(m_dlg);
-    EXPECT_STREQ(m_dlg.m_button.GetWindowTextA(), "Language");
-}
-
-TEST_F(LayoutFileTest, MissingLayoutLeavesEveryWindowAtItsDefaults) {
-    EXPECT_FALSE(StartManager("FlashGui_2.ini"));
-    EXPECT_EQ(testlog::Count("MSG", "layout FlashGui.ini missing"), 1);
-    Register(m_dlg);
-    EXPECT_EQ(m_dlg.GetLayoutRecord(), nullptr);
-    EXPECT_EQ(m_dlg.GetControls().size(), CONTROL_COUNT) << "controls bind without a record";
-    const LuGui::CLuButton& btn = m_dlg.m_button;
-    EXPECT_EQ(btn.GetLayoutRecord(), nullptr);
-    EXPECT_EQ(btn.GetParentDialog(), &m_dlg);
-    EXPECT_TRUE(btn.IsWindowVisible());
-    EXPECT_TRUE(btn.IsWindowEnabled());
-    EXPECT_EQ(btn.GetFontSize().cx, 7);
-    EXPECT_EQ(btn.GetFontSize().cy, 14);
-    EXPECT_EQ(btn.GetWidth(), 0);
-
-    m_dlg.MoveWindow(40, 30, 100, 100);
-    EXPECT_EQ(btn.GetWindowRect().left, 40) << "an unplaced control sits at its dialog's corner";
-    EXPECT_EQ(btn.GetWindowRect().top, 30);
-    m_dlg.ShowWindow(SW_SHOW);
-    EXPECT_TRUE(Frame().empty()) << "nothing in the layout gives anything to draw";
-    EXPECT_EQ(Click(41, 31), 1) << "the dialog takes the press";
-    EXPECT_THAT(m_dlg.TakeCalls(), testing::Not(testing::Contains("OnButton")));
-}
-
 TEST_F(LayoutFileTest, WindowKeysAreAppliedAndTheRecordStaysReachable) {
     Start("[Dialog2000]\n"
           "Rect = 100 50 300 200\n"
@@ -174,60 +141,6 @@ TEST_F(LayoutFileTest, ControlBoundAsAnotherKindIsLogged) {
 }
 
 // ---- geometry --------------------------------------------------------------------------------------
-
-TEST_F(LayoutFileTest, ControlRectanglesAreRelativeToTheirDialog) {
-    Start();
-    const LuGui::CLuButton& btn = m_dlg.m_button;
-    RECT rc = btn.GetWindowRect();
-    EXPECT_EQ(rc.left, 100 + 10);
-    EXPECT_EQ(rc.top, 50 + 10);
-    EXPECT_EQ(rc.right, 100 + 10 + 80);
-    EXPECT_EQ(rc.bottom, 50 + 10 + 30);
-
-    m_dlg.MoveWindow(200, 300, 300, 200);
-    btn.GetWindowRect(&rc);
-    EXPECT_EQ(rc.left, 200 + 10);
-    EXPECT_EQ(rc.top, 300 + 10);
-    EXPECT_EQ(btn.GetWidth(), 80);
-
-    RECT rcClient{};
-    btn.GetClientRect(&rcClient);
-    EXPECT_EQ(rcClient.left, 0);
-    EXPECT_EQ(rcClient.right, 80);
-    EXPECT_EQ(rcClient.bottom, 30);
-
-    m_dlg.SetWindowPos(nullptr, 0, 0, 50, 60, SWP_NOMOVE | SWP_NOZORDER);
-    EXPECT_EQ(m_dlg.GetWindowRect().left, 200) << "SWP_NOMOVE keeps the position";
-    EXPECT_EQ(m_dlg.GetHeight(), 60);
-    m_dlg.SetWindowPos(nullptr, 5, 6, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_SHOWWINDOW);
-    EXPECT_EQ(m_dlg.GetWindowRect().top, 6);
-    EXPECT_EQ(m_dlg.GetWidth(), 50) << "SWP_NOSIZE keeps the size";
-    EXPECT_TRUE(m_dlg.IsWindowVisible());
-}
-
-TEST_F(LayoutFileTest, ScreenPointsConvertToClientPointsAndBack) {
-    Start();
-    const LuGui::CLuButton& btn = m_dlg.m_button; // (110, 60)-(190, 90)
-    POINT pt{115, 70};
-    btn.ScreenToClient(&pt);
-    EXPECT_EQ(pt.x, 5);
-    EXPECT_EQ(pt.y, 10);
-    btn.ClientToScreen(&pt);
-    EXPECT_EQ(pt.x, 115);
-    EXPECT_EQ(pt.y, 70);
-
-    RECT rc{120, 80, 140, 100};
-    m_dlg.ScreenToClient(&rc);
-    EXPECT_EQ(rc.left, 20);
-    EXPECT_EQ(rc.top, 30);
-    EXPECT_EQ(rc.right, 40);
-    EXPECT_EQ(rc.bottom, 50);
-
-    EXPECT_TRUE(btn.HitTest(POINT{110, 60}));
-    EXPECT_TRUE(btn.HitTest(POINT{189, 89}));
-    EXPECT_FALSE(btn.HitTest(POINT{190, 70})) << "the right edge is outside";
-    EXPECT_FALSE(btn.HitTest(POINT{150, 90})) << "the bottom edge is outside";
-}
 
 } // namespace
 } // namespace luguitest

@@ -164,15 +164,4 @@ TEST_F(SelectDialogsTest, ALoadBarClickSelectsItsServerAndOnlyTheFirstFifteenCou
     EXPECT_FALSE(Servers().IsWindowVisible());
 }
 
-TEST_F(SelectDialogsTest, ExitAsksAndBackReturnsToTheGroups) {
-    ClickWindow(Groups().GetGroupButton(0));
-    TakeCommands();
-    Servers().EnableButtons(true);
-    m_sim->OnReturn();
-    EXPECT_TRUE(Groups().IsWindowVisible());
-    EXPECT_EQ(TakeCommands(), std::vector<std::string>{"CMD_SELECTMODEL 2"});
-    EXPECT_STREQ(Groups().GetGroupButton(0).GetWindowTextA(),
-                 "-"); // the list is empty until the host sends it
-}
-
 } // namespace

@@ -26,12 +26,3 @@ TEST(ServerLoad, RaisesSmallLoadsCapsAndLevels) {
         EXPECT_EQ(d.nWordId, c.word) << "raw " << c.raw;
     }
 }
-
-TEST(ServerLoad, JustBelowAThresholdKeepsTheLowerLevel) {
-    const SLoadDisplay d = ComputeLoadDisplay(54.6f); // shown 69.6
-    EXPECT_EQ(d.nLevel, 1);
-    EXPECT_EQ(static_cast<int>(d.fShown + 0.5f), 70);
-    EXPECT_EQ(ComputeLoadDisplay(59.6f).nWordId, STR_LOAD_BUSY) << "74.6 is still busy";
-    EXPECT_EQ(static_cast<int>(ComputeLoadDisplay(59.6f).fShown + 0.5f), 75)
-        << "though its per cent reads 75";
-}

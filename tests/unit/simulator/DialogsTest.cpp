@@ -88,18 +88,6 @@ TEST_F(DialogsTest, ClearAccountOkSendsClearAndCancelSendsNothing) {
     EXPECT_EQ(TakeCommands(), std::vector<std::string>{"CMD_CLEARACCOUNT "});
 }
 
-TEST_F(DialogsTest, NoticesHaveOnlyOkAndKeepTheirLastText) {
-    CDlgFlashConfirm& box = m_sim->GetConfirmDialog();
-    box.Show(CDlgFlashConfirm::TYPE_ERROR, "Server full.");
-    const LuGui::CLuCtrl* pCancel = box.GetControl(CDlgFlashConfirm::IDC_CANCEL);
-    EXPECT_FALSE(pCancel->IsWindowVisible());
-    EXPECT_FALSE(pCancel->IsWindowEnabled());
-    EXPECT_EQ(box.GetControl(CDlgFlashConfirm::IDC_OK)->GetWindowRect().left, 362 + 110);
-    box.Show(CDlgFlashConfirm::TYPE_INPUT, nullptr);
-    EXPECT_STREQ(box.GetText(), "Server full.");
-    EXPECT_EQ(box.GetType(), CDlgFlashConfirm::TYPE_INPUT);
-}
-
 TEST_F(DialogsTest, NameRefusalReopensCreationOnlyInTheStandardLayout) {
     CDlgFlashConfirm& box = m_sim->GetConfirmDialog();
     box.Show(CDlgFlashConfirm::TYPE_ERROR, "Error: Illegal Name!");

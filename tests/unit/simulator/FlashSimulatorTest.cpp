@@ -161,26 +161,6 @@ TEST_F(Simulator, NameCheckSendsEachOnceEventOncePerProcess) {
     EXPECT_EQ(g_commands.size(), 1u) << "once per process, not per simulator object";
 }
 
-TEST_F(Simulator, StoredValuesReadBack) {
-    CFlashSimulator* sim = FlashSimQuery();
-    sim->SetLookParity(7);
-    EXPECT_EQ(sim->GetLookParity(), 1);
-    EXPECT_TRUE(sim->SetNameSuggest(2));
-    EXPECT_FALSE(sim->SetNameSuggest(0));
-    EXPECT_FALSE(sim->GetNameSuggest());
-    std::int32_t a = -1, b = -1;
-    EXPECT_FALSE(sim->GetSelection(&a, &b));
-    EXPECT_EQ(a, 0);
-    sim->SetSelection(true, 3, 4);
-    EXPECT_TRUE(sim->GetSelection(&a, &b));
-    EXPECT_EQ(b, 4);
-    EXPECT_TRUE(sim->GetSelection(nullptr, nullptr));
-    EXPECT_EQ(sim->PreTranslateMessage(nullptr), 1)
-        << "hidden web register dialog: the message is not looked at";
-    sim->SetPlatformModeB(true);
-    EXPECT_EQ(host::JournalCount("gamedata.platformb"), 1);
-}
-
 TEST_F(Simulator, NullHostTextsDoNotCrash) {
     CFlashSimulator* sim = FlashSimQuery();
     sim->Create(0, 0, 0, true);
