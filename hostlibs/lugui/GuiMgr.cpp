@@ -85,6 +85,7 @@ bool CGuiMgr::RegisterDialog(CLuDialog* pDialog, int, int) {
     CDataExchange dx(pDialog);
     pDialog->DoDataExchange(&dx);
     pDialog->MessageMap();
+    KeepTopMostOnTop(); // the layout's flag is known from PreInitData on
     // NOTE: OnInitDialog runs when the dialog is shown, not here: dialogs start hidden, and their
     // initialisation reads live state and talks to the host, which cannot answer before Create returns.
     return true;
@@ -106,18 +107,13 @@ void CGuiMgr::Process() {
     ShowHoverTip();
 }
 
-std::vector<CLuDialog*> CGuiMgr::DrawingOrder() const {
-    std::vector<CLuDialog*> order;
-    order.reserve(m_vecDialogs.size());
-    for (CLuDialog* pDialog : m_vecDialogs)
-        if (!pDialog->IsTopMost()) order.push_back(pDialog);
-    for (CLuDialog* pDialog : m_vecDialogs)
-        if (pDialog->IsTopMost()) order.push_back(pDialog);
-    return order;
+void CGuiMgr::KeepTopMostOnTop() {
+    std::stable_partition(m_vecDialogs.begin(), m_vecDialogs.end(),
+                          [](const CLuDialog* pDialog) { return !pDialog->IsTopMost(); });
 }
 
 void CGuiMgr::Show() {
-    for (CLuDialog* pDialog : DrawingOrder())
+    for (CLuDialog* pDialog : m_vecDialogs)
         if (pDialog->IsWindowVisible()) pDialog->Show();
     DrawTips();
 }
@@ -177,6 +173,7 @@ void CGuiMgr::BringToTop(CLuDialog* pDialog) {
     if (it == m_vecDialogs.end()) return;
     m_vecDialogs.erase(it);
     m_vecDialogs.push_back(pDialog);
+    KeepTopMostOnTop();
 }
 
 void CGuiMgr::ForgetDialog(CLuDialog* pDialog) {
@@ -194,8 +191,7 @@ CLuDialog* CGuiMgr::FindDialog(UINT nTemplateId) const {
 }
 
 CLuDialog* CGuiMgr::DialogAt(POINT pt) const {
-    const std::vector<CLuDialog*> order = DrawingOrder();
-    for (auto it = order.rbegin(); it != order.rend(); ++it) {
+    for (auto it = m_vecDialogs.rbegin(); it != m_vecDialogs.rend(); ++it) {
         CLuDialog* pDialog = *it;
         if (!pDialog->IsWindowVisible() || !pDialog->IsWindowEnabled() || pDialog->IsHideState()) continue;
         if (pDialog->HitTest(pt) || pDialog->ControlAt(pt, true)) return pDialog;
@@ -218,8 +214,7 @@ CLuDialog* CGuiMgr::KeyboardTarget() {
         m_pFocusEdit = nullptr;
     if (m_pFocusEdit && m_pFocusEdit->GetParentDialog()) return m_pFocusEdit->GetParentDialog();
     if (m_pAttentionDialog && m_pAttentionDialog->IsWindowVisible()) return m_pAttentionDialog;
-    const std::vector<CLuDialog*> order = DrawingOrder();
-    for (auto it = order.rbegin(); it != order.rend(); ++it)
+    for (auto it = m_vecDialogs.rbegin(); it != m_vecDialogs.rend(); ++it)
         if ((*it)->IsWindowVisible() && (*it)->IsWindowEnabled()) return *it;
     return nullptr;
 }

@@ -35,8 +35,6 @@ public:
     void BringToTop(CLuDialog* pDialog) override;
     void ForgetDialog(CLuDialog* pDialog) override;
 
-    /// Dialogs in drawing order (bottom-most first; top-most dialogs after the others).
-    std::vector<CLuDialog*> DrawingOrder() const;
     /// The registered dialog with that template id, null when none.
     CLuDialog* FindDialog(UINT nTemplateId) const;
     /// The process's live manager (the last one created), for the host's inspection.
@@ -70,7 +68,10 @@ private:
     CLayoutFile m_layout;
     HWND m_hHostWnd = nullptr;
     PFN_SoundCallBack m_pfnSound = nullptr;
-    std::vector<CLuDialog*> m_vecDialogs; ///< z-order, bottom first
+    /// Moves the top-most dialogs after the others, keeping the order within each kind.
+    void KeepTopMostOnTop();
+
+    std::vector<CLuDialog*> m_vecDialogs; ///< drawing order, bottom first, top-most dialogs last
     std::vector<SPendingActivation> m_vecPending;
     std::vector<STip> m_vecTips;
     CLuEdit* m_pFocusEdit = nullptr;

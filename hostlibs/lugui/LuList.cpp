@@ -16,12 +16,7 @@ LONG ClampToInt(long long n) {
 }
 } // namespace
 
-void CLuList::PreSetParam(int nType, bool bScrollButtons, bool bSlider, int nFlag1, int nFlag2) {
-    m_nType = nType;
-    m_bScrollButtons = bScrollButtons;
-    m_bSlider = bSlider;
-    m_nFlag1 = nFlag1;
-    m_nFlag2 = nFlag2;
+void CLuList::PreSetParam(int, bool, bool, int, int) {
 }
 
 int CLuList::AddString(const char* szText) {

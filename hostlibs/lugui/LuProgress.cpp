@@ -13,7 +13,6 @@ void CLuProgress::PreSetParam(int nMin, int nMax, int nStep, int nPos, const cha
                               const void*) {
     m_nMin = nMin;
     m_nMax = nMax;
-    m_nStep = nStep;
     m_strFillAni = szFillAni ? szFillAni : "";
     SetPos(nPos);
 }

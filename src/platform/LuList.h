@@ -24,8 +24,8 @@ public:
 
     ELuCtrlKind GetKind() const override { return ELuCtrlKind::List; }
 
-    /// The list's set-up: kind, scroll buttons, slider and two flags of the client's list (kept, not drawn
-    /// here).
+    /// The list's set-up: kind, scroll buttons, slider and two flags of the client's list. Our list has one
+    /// kind and no scrolling, so the values change nothing here.
     void PreSetParam(int nType, bool bScrollButtons, bool bSlider, int nFlag1, int nFlag2);
     /// The window that hosts the list when it opens over another control (kept for the caller).
     void SetParentCob(CLuBaseWindow* pWnd) { m_pParentCob = pWnd; }
@@ -84,11 +84,6 @@ private:
     POINT m_ptDeleteMark{-1, 0};
     std::string m_strChooser;
     bool m_bChooserOn = false;
-    int m_nType = 0;
-    bool m_bScrollButtons = false;
-    bool m_bSlider = false;
-    int m_nFlag1 = 0;
-    int m_nFlag2 = 0;
     CLuBaseWindow* m_pParentCob = nullptr;
 };
 

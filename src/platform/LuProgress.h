@@ -16,7 +16,8 @@ public:
 
     ELuCtrlKind GetKind() const override { return ELuCtrlKind::Progress; }
     /// Range, step, start value and the picture of the filled part (null: frame 1 of the background); a
-    /// maximum not above the minimum makes the bar empty. The last two values are the client's, unused here.
+    /// maximum not above the minimum makes the bar empty. The step and the last two values belong to the
+    /// client's bar, which animates; ours draws the value as it is.
     void PreSetParam(int nMin, int nMax, int nStep = 1, int nPos = 0, const char* szFillAni = nullptr,
                      int nReserved = 0, const void* pReserved = nullptr);
     /// The value, clamped to the range.
@@ -31,7 +32,6 @@ public:
 
 private:
     std::string m_strFillAni;
-    int m_nStep = 1;
     int m_nMin = 0;
     int m_nMax = 100;
     int m_nPos = 0;
