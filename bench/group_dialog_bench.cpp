@@ -10,6 +10,7 @@
 #include "TempClientDir.h"
 #include "hostlibs/HostCanvas.h"
 #include "hostlibs/HostEnv.h"
+#include "simulator/DialogSet.h"
 #include "simulator/FlashSimulator.h"
 
 namespace {
@@ -54,8 +55,8 @@ void BM_GroupDialogFrame80Marked(benchmark::State& state) {
     for (int i = 0; i < GROUPS; ++i) pSim->SetVariable("VAR_SERVER_NAME", "1#Server|");
     pSim->SetVariable("VAR_CUR_VER", "2");
     pSim->SetVariable("VAR_AREA_ACH_TIPS", marks.c_str());
-    pSim->GetGroupDialog().RefillGroups();
-    const RECT rc = pSim->GetGroupDialog().GetGroupButton(0).GetWindowRect();
+    pSim->Dialogs().m_dlgSelectGroup.RefillGroups();
+    const RECT rc = pSim->Dialogs().m_dlgSelectGroup.GetGroupButton(0).GetWindowRect();
     host::SetCursor(rc.left + 5, rc.top + 5);
 
     for (auto _ : state) {
@@ -65,7 +66,7 @@ void BM_GroupDialogFrame80Marked(benchmark::State& state) {
         pSim->Show();
     }
     state.counters["marked_groups"] = 0;
-    for (int mark : pSim->GetGroupDialog().GetGroupMarks()) state.counters["marked_groups"] += mark;
+    for (int mark : pSim->Dialogs().m_dlgSelectGroup.GetGroupMarks()) state.counters["marked_groups"] += mark;
     FlashSimDestroy();
     host::ClearGraphicsCaches();
 }

@@ -5,6 +5,7 @@
 
 #include "TempClientDir.h"
 #include "resources/FlashStringMgr.h"
+#include "simulator/DialogSet.h"
 #include "simulator/FlashSimulator.h"
 
 namespace {

@@ -2,6 +2,7 @@
 #include <benchmark/benchmark.h>
 
 #include "TempClientDir.h"
+#include "simulator/DialogSet.h"
 #include "simulator/FlashSimulator.h"
 
 namespace {

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "TempClientDir.h"
+#include "simulator/DialogSet.h"
 #include "simulator/FlashSimulator.h"
 
 namespace {

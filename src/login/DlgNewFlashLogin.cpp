@@ -5,6 +5,9 @@
 #include <algorithm>
 #include <cstring>
 
+#include "login/DlgFlashLoginEn.h"
+#include "login/DlgScanCodeLoginEn.h"
+#include "login/DlgWeiXinLogin.h"
 #include "platform/GameData.h"
 #include "platform/GameGraphic.h"
 #include "platform/Graphics.h"
@@ -12,12 +15,11 @@
 #include "platform/Log.h"
 #include "platform/LuGui.h"
 #include "resources/TextScan.h"
-#include "servers/ScreenActions.h"
-#include "simulator/FlashSimulator.h"
-#include "simulator/LayoutNumbers.h"
+#include "screen/LayoutNumbers.h"
 
 namespace {
 
+constexpr std::uint32_t STR_AGREEMENT_NOT_TICKED = 8000102;
 constexpr std::uint32_t STR_FORGET_URL = 8000014;
 constexpr std::uint32_t STR_HELP_URL = 8000015;
 constexpr std::uint32_t STR_SITE_URL = 8000016;
@@ -48,7 +50,16 @@ constexpr const char* DELETE_MARK_ANI = "NewLogin_XBtn";
 
 } // namespace
 
-CDlgNewFlashLogin::CDlgNewFlashLogin() : CSimDialog(IDD), m_dwEmptySince(GetTickCount()) {
+CDlgNewFlashLogin::CDlgNewFlashLogin()
+    : CSimDialog(IDD), m_dwEmptySince(GetTickCount()), m_frame(*this, {.nSound = IDC_SOUND,
+                                                                       .nBack = IDC_BACK,
+                                                                       .nExit = IDC_EXIT,
+                                                                       .nVersion = IDC_VERSION,
+                                                                       .nLogo = IDC_LOGO}) {
+    m_frame.SetLockedTest(&CDlgNewFlashLogin::IsLocked);
+    m_frame.SetBeforeBack([] {
+        if (IScreenContext* pContext = ScreenContext()) pContext->ShowScreen(CDlgWeiXinLogin::IDD, false);
+    });
 }
 
 CDlgNewFlashLogin::~CDlgNewFlashLogin() = default;
@@ -95,11 +106,7 @@ void CDlgNewFlashLogin::DoDataExchange(LuGui::CDataExchange* pDX) {
     DDX_Control(pDX, IDC_DESCRIPTION1, m_staDescription1);
     DDX_Control(pDX, IDC_DESCRIPTION2, m_staDescription2);
     DDX_Control(pDX, IDC_DECORATION, m_staDecoration);
-    DDX_Control(pDX, IDC_VERSION, m_staVersion);
-    DDX_Control(pDX, IDC_LOGO, m_staLogo);
-    DDX_Control(pDX, IDC_SOUND, m_chkSound);
-    DDX_Control(pDX, IDC_BACK, m_btnBack);
-    DDX_Control(pDX, IDC_EXIT, m_btnExit);
+    m_frame.Bind(pDX);
     DDX_Control(pDX, IDC_RELOAD, m_btnReload);
     DDX_Control(pDX, IDC_HELP, m_btnHelp);
     DDX_Control(pDX, IDC_SITE, m_btnSite);
@@ -153,9 +160,7 @@ void CDlgNewFlashLogin::MessageMap() {
         const std::uint32_t nUrlId = page.second;
         PushMsgMap(WM_COMMAND, page.first, MsgHandler([this, nUrlId] { OnOpenStringPage(nUrlId); }));
     }
-    PushMsgMap(WM_COMMAND, IDC_SOUND, &CDlgNewFlashLogin::OnSound);
-    PushMsgMap(WM_COMMAND, IDC_BACK, &CDlgNewFlashLogin::OnBack);
-    PushMsgMap(WM_COMMAND, IDC_EXIT, &CDlgNewFlashLogin::OnExit);
+    m_frame.MapHandlers();
     PushMsgMap(WM_COMMAND, IDC_RELOAD, &CDlgNewFlashLogin::OnReload);
     PushMsgMap(WM_COMMAND, IDC_SELECT_LINK, &CDlgNewFlashLogin::OnSelectLink);
     PushMsgMap(WM_COMMAND, IDC_PANEL_CLOSE, &CDlgNewFlashLogin::OnPanelClose);
@@ -201,25 +206,23 @@ void CDlgNewFlashLogin::PreSetParam() {
 
 BOOL CDlgNewFlashLogin::OnInitDialog() {
     CSimDialog::OnInitDialog();
-    CFlashSimulator* pSim = FlashSim();
-    if (!pSim) return TRUE;
+    IScreenContext* pContext = ScreenContext();
+    if (!pContext) return TRUE;
     int textX[1] = {0};
     READ_LAYOUT_NUMBERS(STR_FIELD_TEXT_X, textX);
     for (CSimEdit* pEdit : {&m_editAccount, &m_editPassword, &m_editToken}) {
         pEdit->SetFontFormat(FIELD_FONT_FORMAT);
         pEdit->SetTextOffset(textX[0], 0);
     }
-    m_chkSound.SetChecked(pSim->IsMusicOn());
-    if (*pSim->GetVersion()) SetVersionText(pSim->GetVersion());
+    m_frame.OnOpen();
     RefreshTexts();
     // NOTE: filling the inline panel for the last group only stores that group in the simulator;
     // the panel itself stays hidden.
-    pSim->StoreCurGroup(ZeroBased(m_nLastGroup));
+    pContext->StoreCurGroup(ZeroBased(m_nLastGroup));
     m_listAccount.ShowWindow(SW_HIDE);
     m_bAccountListOpen = false;
     if (IsOpenInactive()) {
-        m_btnBack.EnableWindow(FALSE);
-        m_btnExit.EnableWindow(FALSE);
+        m_frame.EnableNavigation(false);
     }
     for (LuGui::CLuBaseWindow* pWnd : std::initializer_list<LuGui::CLuBaseWindow*>{
              &m_btnPanelClose, &m_staPanelDivider1, &m_staPanelDivider2, &m_staPanelBg})
@@ -231,7 +234,7 @@ BOOL CDlgNewFlashLogin::OnInitDialog() {
                  &m_btnPanelServer[i], &m_staPanelLoad[i], &m_staPanelNew[i], &m_staPanelSpecial[i]})
             pWnd->ShowWindow(SW_HIDE);
     for (auto& w : m_staLegend) w.ShowWindow(SW_HIDE);
-    pSim->NotifyHost("BURYING_POINT", "112");
+    pContext->NotifyHost("BURYING_POINT", "112");
     if (IsPlatformModeActive()) ApplyPlatformLayout();
     for (LuGui::CLuBaseWindow* pWnd :
          std::initializer_list<LuGui::CLuBaseWindow*>{&m_staSaveText, &m_staSaveBg, &m_btnRemember})
@@ -239,9 +242,9 @@ BOOL CDlgNewFlashLogin::OnInitDialog() {
     m_listLanguage.ShowWindow(SW_HIDE);
     m_bLanguageListOpen = false;
     m_dwEmptySince = GetTickCount();
-    ShowTokenRow(pSim->IsTokenEnabled());
+    ShowTokenRow(pContext->IsTokenEnabled());
     ShowAndEnable(m_staLoginState, false);
-    pSim->SetVariable("ReSetMainPath", "0-0-0");
+    pContext->SetVariable("ReSetMainPath", "0-0-0");
     return TRUE;
 }
 
@@ -282,11 +285,12 @@ void CDlgNewFlashLogin::ShowDeleteMark() {
     if (rc.right <= rc.left) return;
     CGameGraphic::ShowCtrlAni(DELETE_MARK_ANI, rc.left, rc.top);
     const bool bInside = pt.x >= rc.left && pt.x <= rc.right && pt.y >= rc.top && pt.y <= rc.bottom;
-    CFlashSimulator* pSim = FlashSim();
-    if (!bInside || !pSim || !GetGuiMgr()) return;
+    IScreenContext* pContext = ScreenContext();
+    if (!bInside || !pContext || !GetGuiMgr()) return;
     int offset[2] = {0, 0};
     READ_LAYOUT_NUMBERS(STR_DELETE_TIP_OFFSET, offset);
-    GetGuiMgr()->ShowTip(pSim->GetStr(STR_DELETE_TIP), rc.left + offset[0], rc.top + offset[1], TIP_COLOUR);
+    GetGuiMgr()->ShowTip(pContext->GetStr(STR_DELETE_TIP), rc.left + offset[0], rc.top + offset[1],
+                         TIP_COLOUR);
 }
 
 void CDlgNewFlashLogin::Reset() {
@@ -310,13 +314,13 @@ LRESULT CDlgNewFlashLogin::WindowProc(UINT uMsg, WPARAM wParam, LPARAM lParam) {
     }
     if (uMsg == LuGui::LU_MSG_ACTIVATE) {
         const bool bPlatform = IsPlatformModeActive();
-        m_btnBack.EnableWindow(bPlatform ? FALSE : TRUE);
-        m_btnBack.ShowWindow(bPlatform ? SW_HIDE : SW_SHOW);
-        m_btnExit.EnableWindow(TRUE);
+        m_frame.GetBackButton().EnableWindow(bPlatform ? FALSE : TRUE);
+        m_frame.GetBackButton().ShowWindow(bPlatform ? SW_HIDE : SW_SHOW);
+        m_frame.GetExitButton().EnableWindow(TRUE);
     }
     if (uMsg == LuGui::LU_MSG_LOSE_FOCUS) {
         HideOpenLists();
-        if (CFlashSimulator* pSim = FlashSim()) pSim->NotifyHost("CMD_TEXTSELECT", "");
+        if (IScreenContext* pContext = ScreenContext()) pContext->NotifyHost("CMD_TEXTSELECT", "");
     }
     return CSimDialog::WindowProc(uMsg, wParam, lParam);
 }
@@ -353,19 +357,19 @@ void CDlgNewFlashLogin::HideOpenLists() {
 // ---- handlers ------------------------------------------------------------------------------------
 
 bool CDlgNewFlashLogin::IsLocked() {
-    const CFlashSimulator* pSim = FlashSim();
-    return !pSim || pSim->IsRegisterOpen();
+    const IScreenContext* pContext = ScreenContext();
+    return !pContext || pContext->IsRegisterOpen();
 }
 
 bool CDlgNewFlashLogin::IsPlatformModeActive() {
-    CFlashSimulator* pSim = FlashSim();
-    return pSim && (pSim->IsPlatformModeA() || pSim->IsPlatformModeB());
+    IScreenContext* pContext = ScreenContext();
+    return pContext && (pContext->IsPlatformModeA() || pContext->IsPlatformModeB());
 }
 
 bool CDlgNewFlashLogin::EnsureAgreement() {
-    CFlashSimulator* pSim = FlashSim();
+    IScreenContext* pContext = ScreenContext();
     if (IsAgreementChecked()) return true;
-    pSim->SetVariable("SetLoginError", pSim->GetStr(CFlashSimulator::STR_AGREEMENT_NOT_TICKED));
+    pContext->SetVariable("SetLoginError", pContext->GetStr(STR_AGREEMENT_NOT_TICKED));
     return false;
 }
 
@@ -375,25 +379,26 @@ void CDlgNewFlashLogin::OnEnter() {
 
 void CDlgNewFlashLogin::Login(bool bFromButton) {
     if (IsLocked()) return;
-    CFlashSimulator* pSim = FlashSim();
-    if (!pSim->IsPlatformModeA()) {
+    IScreenContext* pContext = ScreenContext();
+    if (!pContext->IsPlatformModeA()) {
         if (!EnsureAgreement()) return;
         if (RoleDataQueryEn()->GetSetting("Check", 0) != 1) RoleDataQueryEn()->SetSetting("Check", 1);
     }
     // NOTE: the button sends the record command once more than the host's Enter key does.
-    if (bFromButton) pSim->NotifyHost("CMD_RECORDACCOUNT", "");
-    pSim->NotifyHost(IsRememberChecked() ? "CMD_RECORDACCOUNT" : "CMD_CLEARACCOUNT", "");
+    if (bFromButton) pContext->NotifyHost("CMD_RECORDACCOUNT", "");
+    pContext->NotifyHost(IsRememberChecked() ? "CMD_RECORDACCOUNT" : "CMD_CLEARACCOUNT", "");
     CommitGroupSelection();
-    pSim->NotifyHost("BURYING_POINT", "115");
-    pSim->NotifyHost("CMD_ENTERGAME", "0");
+    pContext->NotifyHost("BURYING_POINT", "115");
+    pContext->NotifyHost("CMD_ENTERGAME", "0");
 }
 
 void CDlgNewFlashLogin::CommitGroupSelection() {
-    CFlashSimulator* pSim = FlashSim();
-    if (!pSim) return;
+    IScreenContext* pContext = ScreenContext();
+    if (!pContext) return;
     // SetGroup stores the group and sends CMD_SELECTGROUP with its number.
-    if (m_nChosenGroup != pSim->GetCurGroup() && m_nChosenGroup < pSim->GetGroupCount() && m_nChosenGroup < 3)
-        pSim->SetGroup(m_nChosenGroup);
+    if (m_nChosenGroup != pContext->GetCurGroup() && m_nChosenGroup < pContext->GetGroupCount() &&
+        m_nChosenGroup < 3)
+        pContext->SetGroup(m_nChosenGroup);
 }
 
 void CDlgNewFlashLogin::OnToggleRemember() {
@@ -415,9 +420,10 @@ void CDlgNewFlashLogin::OnAccountListButton() {
         m_bAccountListOpen = false;
         return;
     }
-    CFlashSimulator* pSim = FlashSim();
+    IScreenContext* pContext = ScreenContext();
     m_listAccount.ResetContent();
-    for (int i = 0; i < pSim->GetRecAccountCount(); ++i) m_listAccount.AddString(pSim->GetRecAccount(i));
+    for (int i = 0; i < pContext->GetRecAccountCount(); ++i)
+        m_listAccount.AddString(pContext->GetRecAccount(i));
     m_listAccount.ShowWindow(SW_SHOW);
     m_bAccountListOpen = true;
 }
@@ -425,32 +431,32 @@ void CDlgNewFlashLogin::OnAccountListButton() {
 std::string CDlgNewFlashLogin::TakeAccountRow(int nRow) {
     char szRow[ROW_READ] = {};
     m_listAccount.GetText(nRow, szRow, sizeof szRow);
-    FlashSim()->NotifyHost("CMD_SELECTACCOUNT", szRow);
+    ScreenContext()->NotifyHost("CMD_SELECTACCOUNT", szRow);
     m_listAccount.ShowWindow(SW_HIDE);
     m_bAccountListOpen = false;
     return szRow;
 }
 
 void CDlgNewFlashLogin::OnAccountRowChosen(int nRow) {
-    CFlashSimulator* pSim = FlashSim();
-    if (!pSim) return;
+    IScreenContext* pContext = ScreenContext();
+    if (!pContext) return;
     const std::string account = TakeAccountRow(nRow);
     m_editAccount.SetWindowTextA(account.c_str());
     m_editAccount.SetFocus();
     const int nLength = static_cast<int>(account.size());
     m_editAccount.SetSel(nLength, nLength);
     SetChecked(m_btnRemember, !account.empty());
-    pSim->NotifyHost("CMD_TEXTSELECT", "");
+    pContext->NotifyHost("CMD_TEXTSELECT", "");
     m_listAccount.ResetContent();
 }
 
 void CDlgNewFlashLogin::OnAccountRowDeleted(int nRow) {
-    CFlashSimulator* pSim = FlashSim();
-    if (!pSim) return;
+    IScreenContext* pContext = ScreenContext();
+    if (!pContext) return;
     TakeAccountRow(nRow);
     m_listAccount.ClearHover();
-    pSim->GetConfirmDialog().Show(CDlgFlashConfirm::TYPE_CLEAR_ACCOUNT, nullptr);
-    pSim->NotifyHost("CMD_TEXTSELECT", "");
+    pContext->ShowMessageBox(MSGBOX_CLEAR_ACCOUNT, nullptr);
+    pContext->NotifyHost("CMD_TEXTSELECT", "");
 }
 
 void CDlgNewFlashLogin::OnLanguageListButton() {
@@ -473,32 +479,32 @@ void CDlgNewFlashLogin::FillLanguageList() {
 }
 
 void CDlgNewFlashLogin::OnLanguageRowChosen(int nRow) {
-    CFlashSimulator* pSim = FlashSim();
-    if (!pSim) return;
+    IScreenContext* pContext = ScreenContext();
+    if (!pContext) return;
     m_bLanguageListOpen = false;
     m_listLanguage.ShowWindow(SW_HIDE);
     m_staLanguageName.SetWindowTextA(m_listLanguage.GetText(nRow));
     if (nRow == g_objMultiLang.GetCurIndex()) return;
     g_objMultiLang.SetInfo(g_objMultiLang.GetInfo(nRow));
     m_listLanguage.ResetContent();
-    pSim->ReloadStrings();
+    pContext->ReloadStrings();
     Reset();
-    pSim->ShowSwitchLanguage();
-    pSim->NotifyHost("CMD_SWITCH_LANGUAGE", "0");
+    pContext->ShowSwitchLanguage();
+    pContext->NotifyHost("CMD_SWITCH_LANGUAGE", "0");
 }
 
 void CDlgNewFlashLogin::OnScanCode() {
-    CFlashSimulator* pSim = FlashSim();
-    if (!pSim) return;
+    IScreenContext* pContext = ScreenContext();
+    if (!pContext) return;
     if (!IsPlatformModeActive() && !EnsureAgreement()) return;
-    pSim->GetScanCodeDialog().ShowWindow(SW_SHOW);
+    pContext->ShowScreen(CDlgScanCodeLoginEn::IDD, true);
 }
 
 void CDlgNewFlashLogin::OnForgetPassword() {
     if (IsLocked()) return;
-    CFlashSimulator* pSim = FlashSim();
-    ShellExecuteA(nullptr, nullptr, pSim->GetStr(STR_FORGET_URL), nullptr, nullptr, SW_SHOW);
-    pSim->NotifyHost("BURYING_POINT", "118");
+    IScreenContext* pContext = ScreenContext();
+    ShellExecuteA(nullptr, nullptr, pContext->GetStr(STR_FORGET_URL), nullptr, nullptr, SW_SHOW);
+    pContext->NotifyHost("BURYING_POINT", "118");
 }
 
 void CDlgNewFlashLogin::OnTokenHelp() {
@@ -510,31 +516,16 @@ void CDlgNewFlashLogin::OnTokenHelp() {
 
 void CDlgNewFlashLogin::OnOpenStringPage(std::uint32_t nUrlId) {
     if (IsLocked()) return;
-    ShellExecuteA(nullptr, nullptr, FlashSim()->GetStr(nUrlId), nullptr, nullptr, SW_SHOW);
-}
-
-void CDlgNewFlashLogin::OnSound() {
-    if (!IsLocked()) ReportMusicChoice(m_chkSound.GetCheckValue());
-}
-
-void CDlgNewFlashLogin::OnBack() {
-    if (IsLocked()) return;
-    CFlashSimulator* pSim = FlashSim();
-    pSim->GetWeiXinDialog().ShowWindow(SW_HIDE);
-    pSim->OnReturn();
-}
-
-void CDlgNewFlashLogin::OnExit() {
-    if (!IsLocked()) AskToLeave();
+    ShellExecuteA(nullptr, nullptr, ScreenContext()->GetStr(nUrlId), nullptr, nullptr, SW_SHOW);
 }
 
 void CDlgNewFlashLogin::OnReload() {
-    if (CFlashSimulator* pSim = FlashSim()) pSim->ReloadStrings();
+    if (IScreenContext* pContext = ScreenContext()) pContext->ReloadStrings();
 }
 
 void CDlgNewFlashLogin::OnSelectLink() {
     if (IsLocked()) return;
-    FlashSim()->GetServerPickerDialog().ShowWindow(SW_SHOW);
+    if (IScreenContext* pContext = ScreenContext()) pContext->ShowScreen(CDlgFlashLoginEn::IDD, true);
 }
 
 void CDlgNewFlashLogin::OnPanelClose() {
@@ -580,7 +571,7 @@ void CDlgNewFlashLogin::FocusInput(int nField) {
     char szText[FIELD_READ];
     const int nLength = pEdit->GetWindowText(szText, sizeof szText);
     pEdit->SetSel(nLength, nLength);
-    FlashSim()->NotifyHost("CMD_TEXTSELECT", "");
+    ScreenContext()->NotifyHost("CMD_TEXTSELECT", "");
 }
 
 void CDlgNewFlashLogin::SetSelectionEdge(bool bEnd, int nValue) {

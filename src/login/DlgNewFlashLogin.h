@@ -6,11 +6,11 @@
 #include <string>
 
 #include "controls/SimButton.h"
-#include "controls/SimCheck.h"
 #include "controls/SimDialog.h"
 #include "controls/SimEdit.h"
 #include "controls/SimList.h"
 #include "controls/SimStatic.h"
+#include "screen/ScreenFrame.h"
 
 /// Input field numbers shared by the login dialogs and the host.
 enum ELoginInput {
@@ -84,6 +84,8 @@ public:
     /// The host's selection edges; the end selects from the stored start in the focused field.
     void SetSelectionEdge(bool bEnd, int nValue);
     int GetFocusField() const { return m_nFocusField; }
+    /// Makes a field the current one for the host's focus and selection reads, without moving the caret.
+    void SetCurrentField(int nField) { m_nFocusField = nField; }
     int GetSelectionEdge(bool bEnd);
     /// The last login the client remembers: model, 1-based group and server; sets the server label.
     void RestoreLastServer(int& nModel, int& nGroup, int& nServer);
@@ -97,10 +99,9 @@ public:
     void CommitGroupSelection();
     void ShowTokenRow(bool bShow);
     void MarkPasswordIncorrect() { m_bShowForgetPwd = true; }
-    void SetVersionText(const char* szVersion);
     /// Back from the game; the first time opens the account-creation page once per installation.
     void OnBackToLogin(bool bFirst);
-    void SetMusicCheck(bool bOn) { m_chkSound.SetChecked(bOn); }
+    const CScreenFrame& GetFrame() const { return m_frame; }
 
     bool IsAgreementChecked() const;
     bool IsRememberChecked() const;
@@ -122,9 +123,6 @@ private:
     void OnForgetPassword();
     void OnTokenHelp();
     void OnOpenStringPage(std::uint32_t nUrlId);
-    void OnSound();
-    void OnBack();
-    void OnExit();
     void OnReload();
     void OnSelectLink();
     void OnPanelClose();
@@ -192,9 +190,9 @@ private:
     CSimStatic m_staServerLabel, m_staLoadPicture;
     CSimButton m_btnSelectLink;
     CSimStatic m_staSelectLine;
-    CSimStatic m_staDescription1, m_staDescription2, m_staDecoration, m_staVersion, m_staLogo;
-    CSimCheck m_chkSound;
-    CSimButton m_btnBack, m_btnExit, m_btnReload, m_btnHelp, m_btnSite, m_btnQrPicture, m_btnQrCaption;
+    CSimStatic m_staDescription1, m_staDescription2, m_staDecoration;
+    CScreenFrame m_frame;
+    CSimButton m_btnReload, m_btnHelp, m_btnSite, m_btnQrPicture, m_btnQrCaption;
     CSimStatic m_staLanguageLabel, m_staLanguageName;
     CSimButton m_btnLanguage;
     CSimList m_listLanguage;

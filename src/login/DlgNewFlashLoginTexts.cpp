@@ -8,9 +8,7 @@
 #include "platform/GameData.h"
 #include "resources/MyString.h"
 #include "resources/TextScan.h"
-#include "servers/ScreenActions.h"
-#include "simulator/FlashSimulator.h"
-#include "simulator/LayoutNumbers.h"
+#include "screen/LayoutNumbers.h"
 
 namespace {
 
@@ -119,10 +117,10 @@ bool ParseLastLogin(std::string_view record, int& nModel, int& nGroup, int& nSer
 // ---- texts -----------------------------------------------------------------------------------------
 
 void CDlgNewFlashLogin::RefreshTexts() {
-    CFlashSimulator* pSim = FlashSim();
-    if (!pSim) return;
-    m_staDescription1.SetWindowTextA(pSim->GetStr(8000110));
-    m_staDescription2.SetWindowTextA(pSim->GetStr(8000111));
+    IScreenContext* pContext = ScreenContext();
+    if (!pContext) return;
+    m_staDescription1.SetWindowTextA(pContext->GetStr(8000110));
+    m_staDescription2.SetWindowTextA(pContext->GetStr(8000111));
     int nModel = 0;
     int nGroup = m_nLastGroup, nServer = m_nLastServer;
     RestoreLastServer(nModel, nGroup, nServer);
@@ -131,9 +129,10 @@ void CDlgNewFlashLogin::RefreshTexts() {
     SetChecked(m_btnAgreement, RoleDataQueryEn()->GetSetting("Check", 0) == 1);
     UpdateAgreementRow(IsAgreementChecked() ? AGREEMENT_CHECKED_COLOUR : AGREEMENT_UNCHECKED_COLOUR);
     RefreshEmbeddedBrowserSwitch();
-    PlaceLoadPicture(pSim->GetServerLoad(pSim->GetCurServer()), true);
+    PlaceLoadPicture(pContext->GetServerLoad(pContext->GetCurServer()), true);
     for (const SControlText& text : CONTROL_TEXTS)
-        if (LuGui::CLuCtrl* pCtrl = GetControl(text.nId)) pCtrl->SetWindowTextA(pSim->GetStr(text.nStrId));
+        if (LuGui::CLuCtrl* pCtrl = GetControl(text.nId))
+            pCtrl->SetWindowTextA(pContext->GetStr(text.nStrId));
     for (LuGui::CLuBaseWindow* pWnd : std::initializer_list<LuGui::CLuBaseWindow*>{
              &m_staAccountHint, &m_staPasswordHint, &m_btnCreateLink, &m_staCreateLine, &m_staLanguageLabel,
              &m_staLanguageName})
@@ -157,10 +156,6 @@ void CDlgNewFlashLogin::RefreshTexts() {
     }
 }
 
-void CDlgNewFlashLogin::SetVersionText(const char* szVersion) {
-    if (szVersion) m_staVersion.SetWindowTextA(VersionLabelText(szVersion).c_str());
-}
-
 void CDlgNewFlashLogin::RefreshEmbeddedBrowserSwitch() {
     RoleDataQueryEx()->SetEmbeddedBrowser(SafeAtoi(RoleDataQueryEx()->GetStrRes(STR_RES_EMBEDDED_BROWSER)) ==
                                           1);
@@ -169,8 +164,8 @@ void CDlgNewFlashLogin::RefreshEmbeddedBrowserSwitch() {
 // ---- last server and server label ------------------------------------------------------------------
 
 void CDlgNewFlashLogin::RestoreLastServer(int& nModel, int& nGroup, int& nServer) {
-    CFlashSimulator* pSim = FlashSim();
-    if (!pSim) return;
+    IScreenContext* pContext = ScreenContext();
+    if (!pContext) return;
     char szRecord[LAST_LOGIN_READ] = {};
     MyGetPrivateProfileString("LastLogin", "Record", "", szRecord, sizeof szRecord, g_pszIniGameSetup);
     std::string strGroupName, strServerName, strRest;
@@ -190,7 +185,7 @@ void CDlgNewFlashLogin::RestoreLastServer(int& nModel, int& nGroup, int& nServer
     }
     if (!bFound) {
         // "%d %d %s %s" of the string table's default.
-        const std::string def = pSim->GetStr(STR_DEFAULT_LAST_SERVER);
+        const std::string def = pContext->GetStr(STR_DEFAULT_LAST_SERVER);
         const auto numbers = textscan::ReadInts(def, 2);
         if (numbers.size() == 2 && numbers[0] >= 1 && numbers[1] >= 1) {
             std::size_t pos = 0;
@@ -214,44 +209,44 @@ void CDlgNewFlashLogin::RestoreLastServer(int& nModel, int& nGroup, int& nServer
     if (!bFound) {
         for (int g = 0; g < 3 && !bFound; ++g)
             for (int s = 0; s < 10 && !bFound; ++s) {
-                const char* szName = pSim->GetServerName(g, s);
+                const char* szName = pContext->GetServerName(g, s);
                 if (!szName || !RoleDataQueryEx()->IsNewServer(szName)) continue;
                 nGroup = g + 1;
                 nServer = s + 1;
-                strGroupName = pSim->GetGroupName(g) ? pSim->GetGroupName(g) : "";
+                strGroupName = pContext->GetGroupName(g) ? pContext->GetGroupName(g) : "";
                 strServerName = szName;
                 bFound = true;
             }
         if (!bFound) {
             nGroup = 1;
             nServer = 1;
-            if (pSim->GetGroupName(0) && pSim->GetServerName(0, 0)) {
-                strGroupName = pSim->GetGroupName(0);
-                strServerName = pSim->GetServerName(0, 0);
+            if (pContext->GetGroupName(0) && pContext->GetServerName(0, 0)) {
+                strGroupName = pContext->GetGroupName(0);
+                strServerName = pContext->GetServerName(0, 0);
             }
         }
     }
     if (!strGroupName.empty() && !strServerName.empty()) {
         m_staServerLabel.SetWindowTextA(Label(strGroupName.c_str(), strServerName.c_str()).c_str());
         m_nChosenGroup = ZeroBased(nGroup);
-        pSim->NotifyHostInt("CMD_SELECTGROUP", nGroup);
-        pSim->NotifyHostInt("CMD_EX_SELECTSERVER", nServer);
+        pContext->NotifyHostInt("CMD_SELECTGROUP", nGroup);
+        pContext->NotifyHostInt("CMD_EX_SELECTSERVER", nServer);
         return;
     }
-    m_staServerLabel.SetWindowTextA(Label(pSim->GetCurGroupName(), pSim->GetCurServerName()).c_str());
-    m_nChosenGroup = pSim->GetCurGroup();
-    nGroup = OneBased(pSim->GetCurGroup());
-    nServer = OneBased(pSim->GetCurServer());
+    m_staServerLabel.SetWindowTextA(Label(pContext->GetCurGroupName(), pContext->GetCurServerName()).c_str());
+    m_nChosenGroup = pContext->GetCurGroup();
+    nGroup = OneBased(pContext->GetCurGroup());
+    nServer = OneBased(pContext->GetCurServer());
 }
 
 void CDlgNewFlashLogin::UpdateServerLabel() {
-    CFlashSimulator* pSim = FlashSim();
-    if (!pSim) return;
-    m_nChosenGroup = pSim->GetCurGroup();
-    m_staServerLabel.SetWindowTextA(Label(pSim->GetCurGroupName(), pSim->GetCurServerName()).c_str());
-    PlaceLoadPicture(pSim->GetCurServerLoad(), false);
-    pSim->NotifyHostIndex("CMD_SELECTGROUP", pSim->GetCurGroup());
-    pSim->NotifyHostIndex("CMD_SELECTSERVER", pSim->GetCurServer());
+    IScreenContext* pContext = ScreenContext();
+    if (!pContext) return;
+    m_nChosenGroup = pContext->GetCurGroup();
+    m_staServerLabel.SetWindowTextA(Label(pContext->GetCurGroupName(), pContext->GetCurServerName()).c_str());
+    PlaceLoadPicture(pContext->GetServerLoad(pContext->GetCurServer()), false);
+    pContext->NotifyHostIndex("CMD_SELECTGROUP", pContext->GetCurGroup());
+    pContext->NotifyHostIndex("CMD_SELECTSERVER", pContext->GetCurServer());
 }
 
 void CDlgNewFlashLogin::PlaceLoadPicture(float fLoad, bool bWithBonus) {
@@ -294,8 +289,8 @@ void CDlgNewFlashLogin::PlaceLoadPicture(float fLoad, bool bWithBonus) {
 // ---- agreement row ---------------------------------------------------------------------------------
 
 void CDlgNewFlashLogin::UpdateAgreementRow(DWORD dwColour) {
-    CFlashSimulator* pSim = FlashSim();
-    if (!pSim) return;
+    IScreenContext* pContext = ScreenContext();
+    if (!pContext) return;
     const DWORD dwOpaque = dwColour | 0xFF000000;
     for (std::size_t i = 0; i < std::size(AGREEMENT_ROW); ++i) {
         const SAgreementElement& element = AGREEMENT_ROW[i];
@@ -328,13 +323,14 @@ void CDlgNewFlashLogin::UpdateAgreementRow(DWORD dwColour) {
     }
     const int nDate = RoleDataQueryEn()->GetSetting("UpdateTime", 0);
     m_staUpdateDate.SetWindowTextA(
-        CMyString::Format(pSim->GetStr(STR_UPDATE_DATE_FORMAT), (nDate % 10000) / 100, nDate % 100).c_str());
+        CMyString::Format(pContext->GetStr(STR_UPDATE_DATE_FORMAT), (nDate % 10000) / 100, nDate % 100)
+            .c_str());
 }
 
 // ---- platform modes --------------------------------------------------------------------------------
 
 void CDlgNewFlashLogin::ApplyPlatformLayout() {
-    CFlashSimulator* pSim = FlashSim();
+    IScreenContext* pContext = ScreenContext();
     m_staAccountLabel.EnableWindow(FALSE);
     ShowAndEnable(m_staAccountHint, true);
     for (LuGui::CLuBaseWindow* pWnd :
@@ -343,14 +339,14 @@ void CDlgNewFlashLogin::ApplyPlatformLayout() {
         ShowAndEnable(*pWnd, false);
     m_staPasswordLabel.EnableWindow(FALSE);
     ShowAndEnable(m_staPasswordHint, true);
-    if (pSim->IsPlatformModeA() && !pSim->IsPlatformModeB())
+    if (pContext->IsPlatformModeA() && !pContext->IsPlatformModeB())
         for (LuGui::CLuBaseWindow* pWnd : std::initializer_list<LuGui::CLuBaseWindow*>{
                  &m_btnAgreement, &m_btnAgreementLink, &m_staAgreementLine, &m_staAgreementBg,
                  &m_btnPrivacyLink, &m_staJoinWord, &m_staPrivacyLine, &m_staUpdateDate})
             ShowAndEnable(*pWnd, false);
     for (LuGui::CLuBaseWindow* pWnd : std::initializer_list<LuGui::CLuBaseWindow*>{
              &m_btnRemember, &m_staSaveText, &m_staSaveBg, &m_btnCreateLink, &m_staCreateLine,
-             &m_btnForgetLink, &m_staForgetLine, &m_btnBack, &m_btnPasswordHelp, &m_btnReload})
+             &m_btnForgetLink, &m_staForgetLine, &m_frame.GetBackButton(), &m_btnPasswordHelp, &m_btnReload})
         ShowAndEnable(*pWnd, false);
 }
 
@@ -358,7 +354,7 @@ void CDlgNewFlashLogin::ApplyPlatformLayout() {
 
 void CDlgNewFlashLogin::OpenRegisterPage(bool bFromClick) {
     if (IsLocked()) return;
-    CFlashSimulator* pSim = FlashSim();
+    IScreenContext* pContext = ScreenContext();
     std::string folder = GetClientDirectory().substr(0, PATH_LIMIT) + BROWSER_FOLDER;
     // NOTE: the client names the folder with a backslash; on this platform the test takes it as a separator.
     for (char& c : folder)
@@ -369,9 +365,9 @@ void CDlgNewFlashLogin::OpenRegisterPage(bool bFromClick) {
                                               MyGameDataEnQuery()->GetRegisterArg())
                                 .substr(0, URL_LIMIT - 1);
     if (RoleDataQueryEx()->IsEmbeddedBrowser())
-        pSim->GetWebRegisterDialog().OpenPage(url.c_str(), WEB_REGISTER_LAYOUT, WEB_REGISTER_RESERVED);
+        pContext->OpenWebRegisterPage(url.c_str(), WEB_REGISTER_LAYOUT, WEB_REGISTER_RESERVED);
     else if (!url.empty()) // a client without the address has no page to open
         ShellExecuteA(nullptr, "open", url.c_str(), nullptr, nullptr, SW_SHOW);
-    pSim->SetRegisterOpen(bBrowserFolder);
-    if (bFromClick) pSim->NotifyHost("BURYING_POINT", "117");
+    pContext->SetRegisterOpen(bBrowserFolder);
+    if (bFromClick) pContext->NotifyHost("BURYING_POINT", "117");
 }

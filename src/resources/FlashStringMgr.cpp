@@ -9,7 +9,7 @@
 
 #include "platform/BaseLib.h"
 #include "resources/TextScan.h"
-#include "simulator/SysLog.h"
+#include "common/SysLog.h"
 
 namespace {
 constexpr std::size_t LINE_BUFFER_SIZE = 1024;

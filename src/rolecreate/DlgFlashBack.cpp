@@ -1,7 +1,7 @@
 // The back button of the English creation layout.
 #include "rolecreate/DlgFlashBack.h"
 
-#include "simulator/FlashSimulator.h"
+#include "screen/ScreenContext.h"
 
 CDlgFlashBack::CDlgFlashBack() : CSimDialog(IDD) {
 }
@@ -19,9 +19,9 @@ void CDlgFlashBack::MessageMap() {
 }
 
 void CDlgFlashBack::OnBack() {
-    CFlashSimulator* pSim = FlashSim();
-    if (!pSim) return;
-    pSim->NotifyHost("BURYING_POINT", "416");
-    pSim->NotifyHost("SendNewwerAction", "10102");
-    pSim->NotifyHost("RoleReturn", "");
+    IScreenContext* pContext = ScreenContext();
+    if (!pContext) return;
+    pContext->NotifyHost("BURYING_POINT", "416");
+    pContext->NotifyHost("SendNewwerAction", "10102");
+    pContext->NotifyHost("RoleReturn", "");
 }

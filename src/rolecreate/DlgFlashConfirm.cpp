@@ -5,8 +5,8 @@
 
 #include "platform/GameData.h"
 #include "platform/Input.h"
-#include "simulator/FlashSimulator.h"
-#include "simulator/LayoutNumbers.h"
+#include "screen/LayoutNumbers.h"
+#include "screen/ScreenContext.h"
 
 namespace {
 
@@ -55,13 +55,13 @@ void CDlgFlashConfirm::MessageMap() {
 // ---- handlers ------------------------------------------------------------------------------------
 
 void CDlgFlashConfirm::OnOk() {
-    CFlashSimulator* pSim = FlashSim();
+    IScreenContext* pContext = ScreenContext();
     switch (m_nType) {
     case TYPE_EXIT:
-        if (pSim) pSim->NotifyHost("CMD_EXITOK", "");
+        if (pContext) pContext->NotifyHost("CMD_EXITOK", "");
         break;
     case TYPE_CLEAR_ACCOUNT:
-        if (pSim) pSim->NotifyHost("CMD_CLEARACCOUNT", "");
+        if (pContext) pContext->NotifyHost("CMD_CLEARACCOUNT", "");
         break;
     case TYPE_NAME_REFUSED:
         ReopenCreation();
@@ -83,13 +83,14 @@ void CDlgFlashConfirm::OnCancel() {
 void CDlgFlashConfirm::Show(int nType, const char* szText) {
     ShowWindow(SW_SHOW);
     m_nType = nType;
-    CFlashSimulator* pSim = FlashSim();
-    if (nType != TYPE_INPUT && pSim && pSim->GetMainPathWidth() != 0 && pSim->GetMainPathHeight() != 0)
+    IScreenContext* pContext = ScreenContext();
+    if (nType != TYPE_INPUT && pContext && pContext->GetMainPathWidth() != 0 &&
+        pContext->GetMainPathHeight() != 0)
         PlaceByMainWindow();
-    if (nType == TYPE_EXIT && pSim)
-        m_staticMessage.SetWindowTextA(pSim->GetStr(STR_EXIT_QUESTION));
-    else if (nType == TYPE_CLEAR_ACCOUNT && pSim)
-        m_staticMessage.SetWindowTextA(pSim->GetStr(STR_CLEAR_ACCOUNT_QUESTION));
+    if (nType == TYPE_EXIT && pContext)
+        m_staticMessage.SetWindowTextA(pContext->GetStr(STR_EXIT_QUESTION));
+    else if (nType == TYPE_CLEAR_ACCOUNT && pContext)
+        m_staticMessage.SetWindowTextA(pContext->GetStr(STR_CLEAR_ACCOUNT_QUESTION));
     else if ((nType == TYPE_ERROR || nType == TYPE_INPUT) && szText)
         m_staticMessage.SetWindowTextA(szText);
     if (nType == TYPE_INPUT) PlaceByMainWindow();
@@ -98,14 +99,14 @@ void CDlgFlashConfirm::Show(int nType, const char* szText) {
 }
 
 void CDlgFlashConfirm::PlaceByMainWindow() {
-    CFlashSimulator* pSim = FlashSim();
-    if (!pSim) return;
+    IScreenContext* pContext = ScreenContext();
+    if (!pContext) return;
     RECT rc = GetWindowRect();
     ScreenToClient(&rc);
     const int nWidth = GetWidth();
     const int nHeight = GetHeight();
-    const int x = rc.left - REFERENCE_WIDTH + pSim->GetMainPathWidth() - nWidth / 2;
-    const int y = rc.bottom + pSim->GetMainPathHeight() - REFERENCE_HEIGHT;
+    const int x = rc.left - REFERENCE_WIDTH + pContext->GetMainPathWidth() - nWidth / 2;
+    const int y = rc.bottom + pContext->GetMainPathHeight() - REFERENCE_HEIGHT;
     MoveWindow(x, y, nWidth, nHeight, TRUE);
 }
 
@@ -119,13 +120,13 @@ void CDlgFlashConfirm::ArrangeButtons() {
 }
 
 void CDlgFlashConfirm::ReopenCreation() {
-    CFlashSimulator* pSim = FlashSim();
-    if (!pSim) return;
+    IScreenContext* pContext = ScreenContext();
+    if (!pContext) return;
     char szSize[32];
     SafeSprintf(szSize, sizeof szSize, "%d-%d-1", GetSystemMetrics(SM_CXSCREEN),
                 GetSystemMetrics(SM_CYSCREEN));
-    pSim->SetVariable("SetMainPath", szSize);
-    pSim->NotifyHost("CLOSE_BACK", "");
+    pContext->SetVariable("SetMainPath", szSize);
+    pContext->NotifyHost("CLOSE_BACK", "");
 }
 
 // ---- drawing -------------------------------------------------------------------------------------

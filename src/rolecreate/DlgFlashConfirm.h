@@ -7,6 +7,7 @@
 #include "controls/SimButton.h"
 #include "controls/SimDialog.h"
 #include "controls/SimStatic.h"
+#include "screen/ScreenContext.h"
 
 class CDlgFlashConfirm : public CSimDialog {
 public:
@@ -18,12 +19,11 @@ public:
     static constexpr UINT IDC_OK = 1001;
     static constexpr UINT IDC_CANCEL = 1019;
 
-    static constexpr int TYPE_EXIT = 1;          ///< leave the game: OK, Cancel
-    static constexpr int TYPE_CLEAR_ACCOUNT = 2; ///< forget the remembered account: OK, Cancel
-    static constexpr int TYPE_ERROR = 3;         ///< error or notice: OK
-    static constexpr int TYPE_INPUT = 4;         ///< notice about an input: OK
-    /// Name refused in the standard creation layout: OK reopens creation.
-    static constexpr int TYPE_NAME_REFUSED = 5;
+    static constexpr int TYPE_EXIT = MSGBOX_EXIT;
+    static constexpr int TYPE_CLEAR_ACCOUNT = MSGBOX_CLEAR_ACCOUNT;
+    static constexpr int TYPE_ERROR = MSGBOX_ERROR;
+    static constexpr int TYPE_INPUT = MSGBOX_INPUT;
+    static constexpr int TYPE_NAME_REFUSED = MSGBOX_NAME_REFUSED;
 
     static constexpr std::uint32_t STR_EXIT_QUESTION = 3110002;
     static constexpr std::uint32_t STR_CLEAR_ACCOUNT_QUESTION = 3110003;

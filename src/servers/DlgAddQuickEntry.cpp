@@ -4,8 +4,8 @@
 #include <string>
 
 #include "platform/Log.h"
+#include "screen/ScreenContext.h"
 #include "servers/EditionInfo.h"
-#include "simulator/FlashSimulator.h"
 
 CDlgAddQuickEntry::CDlgAddQuickEntry() : CSimDialog(IDD) {
 }
@@ -44,32 +44,32 @@ void CDlgAddQuickEntry::MessageMap() {
 // ---- filling -------------------------------------------------------------------------------------
 
 std::string CDlgAddQuickEntry::RecordLine(int nEdition, const char* szGroup, const char* szServer) {
-    CFlashSimulator* pSim = FlashSim();
+    IScreenContext* pContext = ScreenContext();
     const char* szEdition =
-        pSim ? pSim->GetStr(STR_EDITION_NAME_BASE + static_cast<std::uint32_t>(nEdition)) : "";
+        pContext ? pContext->GetStr(STR_EDITION_NAME_BASE + static_cast<std::uint32_t>(nEdition)) : "";
     return std::string(szEdition ? szEdition : "") + " " + (szGroup ? szGroup : "") + " " +
            (szServer ? szServer : "");
 }
 
 BOOL CDlgAddQuickEntry::OnInitDialog() {
     CSimDialog::OnInitDialog();
-    CFlashSimulator* pSim = FlashSim();
-    if (!pSim) return TRUE;
-    m_staTitle.SetWindowTextA(pSim->GetStr(STR_TITLE));
-    m_staFull.SetWindowTextA(pSim->GetStr(STR_FULL));
-    m_staExplain.SetWindowTextA(pSim->GetStr(STR_EXPLAIN));
-    const int nRecords = pSim->GetQuickEntryCount();
+    IScreenContext* pContext = ScreenContext();
+    if (!pContext) return TRUE;
+    m_staTitle.SetWindowTextA(pContext->GetStr(STR_TITLE));
+    m_staFull.SetWindowTextA(pContext->GetStr(STR_FULL));
+    m_staExplain.SetWindowTextA(pContext->GetStr(STR_EXPLAIN));
+    const int nRecords = pContext->GetQuickEntryCount();
     if (nRecords != MAX_QUICK_ENTRY_AMOUNT)
         LogMsg("ASSERT(nRecordAmount == MAX_QUICK_ENTRY_AMOUNT) in %d line of %s", __LINE__, __FILE__);
     if (nRecords < MAX_QUICK_ENTRY_AMOUNT) return TRUE;
 
-    const SQuickEntry* pFirst = pSim->GetQuickEntry(0);
+    const SQuickEntry* pFirst = pContext->GetQuickEntry(0);
     m_staReplaced.SetWindowTextA(
         RecordLine(pFirst->nModel, pFirst->strGroupName.c_str(), pFirst->strServerName.c_str()).c_str());
     m_staNewRecord.SetWindowTextA(
-        RecordLine(pSim->GetModel(), pSim->GetCurGroupName(), pSim->GetCurServerName()).c_str());
+        RecordLine(pContext->GetModel(), pContext->GetCurGroupName(), pContext->GetCurServerName()).c_str());
     for (int k = 0; k < MAX_QUICK_ENTRY_AMOUNT; ++k) {
-        const SQuickEntry* pEntry = pSim->GetQuickEntry(k);
+        const SQuickEntry* pEntry = pContext->GetQuickEntry(k);
         if (const SEditionInfo* pEdition = FindEdition(pEntry->nModel))
             m_staRowEdition[k].SetBackGroundAni(pEdition->szEntryPicture);
         m_staRowGroup[k].SetWindowTextA(pEntry->strGroupName.c_str());
@@ -81,10 +81,10 @@ BOOL CDlgAddQuickEntry::OnInitDialog() {
 // ---- handlers ------------------------------------------------------------------------------------
 
 void CDlgAddQuickEntry::OnReplace(int nSlot) {
-    if (CFlashSimulator* pSim = FlashSim()) {
+    if (IScreenContext* pContext = ScreenContext()) {
         SQuickEntry entry;
-        pSim->FillQuickEntry(entry);
-        pSim->ReplaceQuickEntry(entry, nSlot);
+        pContext->FillQuickEntry(entry);
+        pContext->ReplaceQuickEntry(entry, nSlot);
     }
     ShowWindow(SW_HIDE);
 }

@@ -6,7 +6,7 @@
 #include "controls/SimButton.h"
 #include "controls/SimDialog.h"
 #include "controls/SimStatic.h"
-#include "simulator/ServerTypes.h"
+#include "resources/ServerTypes.h"
 
 class CDlgAddQuickEntry : public CSimDialog {
 public:

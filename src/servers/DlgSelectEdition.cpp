@@ -4,14 +4,17 @@
 #include <algorithm>
 #include <string>
 
-#include "servers/ScreenActions.h"
-#include "simulator/FlashSimulator.h"
-
 namespace {
 constexpr int MAX_TIP_TEXT = 1024;
 }
 
-CDlgSelectEdition::CDlgSelectEdition() : CSimDialog(IDD) {
+CDlgSelectEdition::CDlgSelectEdition()
+    : CSimDialog(IDD), m_frame(*this, {.nSound = IDC_SOUND,
+                                       .nBack = IDC_BACK,
+                                       .nExit = IDC_EXIT,
+                                       .nVersion = IDC_VERSION,
+                                       .nLogo = IDC_LOGO,
+                                       .panels = {IDC_BOTTOM1, IDC_BOTTOM2}}) {
 }
 
 CDlgSelectEdition::~CDlgSelectEdition() = default;
@@ -28,14 +31,8 @@ void CDlgSelectEdition::DoDataExchange(LuGui::CDataExchange* pDX) {
         LuGui::DDX_Control(pDX, static_cast<int>(IDC_RECORDS[k]), m_btnRecord[k]);
         LuGui::DDX_Control(pDX, static_cast<int>(IDC_DELETE_RECORDS[k]), m_btnDeleteRecord[k]);
     }
-    LuGui::DDX_Control(pDX, IDC_VERSION, m_staVersion);
-    LuGui::DDX_Control(pDX, IDC_BACK, m_btnBack);
-    LuGui::DDX_Control(pDX, IDC_EXIT, m_btnExit);
-    LuGui::DDX_Control(pDX, IDC_SOUND, m_chkSound);
     LuGui::DDX_Control(pDX, IDC_EDITION_BG, m_staEditionBg);
-    LuGui::DDX_Control(pDX, IDC_BOTTOM1, m_staBottom1);
-    LuGui::DDX_Control(pDX, IDC_BOTTOM2, m_staBottom2);
-    LuGui::DDX_Control(pDX, IDC_LOGO, m_staLogo);
+    m_frame.Bind(pDX);
 }
 
 void CDlgSelectEdition::MessageMap() {
@@ -47,24 +44,21 @@ void CDlgSelectEdition::MessageMap() {
         PushMsgMap(WM_COMMAND, IDC_RECORDS[k], MsgHandler([this, k] { OnRecord(k); }));
         PushMsgMap(WM_COMMAND, IDC_DELETE_RECORDS[k], MsgHandler([this, k] { OnDeleteRecord(k); }));
     }
-    PushMsgMap(WM_COMMAND, IDC_SOUND, &CDlgSelectEdition::OnSound);
-    PushMsgMap(WM_COMMAND, IDC_BACK, &CDlgSelectEdition::OnBack);
-    PushMsgMap(WM_COMMAND, IDC_EXIT, &CDlgSelectEdition::OnExit);
+    m_frame.MapHandlers();
 }
 
 BOOL CDlgSelectEdition::OnInitDialog() {
     CSimDialog::OnInitDialog();
-    CFlashSimulator* pSim = FlashSim();
-    if (!pSim) return TRUE;
+    IScreenContext* pContext = ScreenContext();
+    if (!pContext) return TRUE;
     for (int i = 0; i < EDITION_COUNT; ++i) {
         char szTip[MAX_TIP_TEXT] = {};
         MyGetPrivateProfileString("VerTip", FindEdition(i + 1)->szTipKey, "", szTip, sizeof szTip,
                                   g_pszIniServerState);
         m_staEditionTip[i].SetWindowTextA(szTip);
     }
-    SetVersionText(pSim->GetVersion());
-    m_chkSound.SetChecked(pSim->IsMusicOn());
-    pSim->NotifyHost("GET_QUCIK_RECORD", "");
+    m_frame.OnOpen();
+    pContext->NotifyHost("GET_QUCIK_RECORD", "");
     RefreshRecordButtons();
     if (IsOpenInactive()) EnableButtons(false);
     return TRUE;
@@ -78,42 +72,30 @@ LRESULT CDlgSelectEdition::WindowProc(UINT uMsg, WPARAM wParam, LPARAM lParam) {
 // ---- handlers ------------------------------------------------------------------------------------
 
 void CDlgSelectEdition::OnEdition(int nIndex) {
-    if (CFlashSimulator* pSim = FlashSim()) pSim->OnSelectModel(nIndex + 1);
+    if (IScreenContext* pContext = ScreenContext()) pContext->OnSelectModel(nIndex + 1);
 }
 
 void CDlgSelectEdition::OnRecord(int nSlot) {
-    CFlashSimulator* pSim = FlashSim();
-    const SQuickEntry* pEntry = pSim ? pSim->GetQuickEntry(nSlot) : nullptr;
-    if (pEntry) pSim->QuickSelect(pEntry->nModel, ZeroBased(pEntry->nGroup), ZeroBased(pEntry->nServer));
+    IScreenContext* pContext = ScreenContext();
+    const SQuickEntry* pEntry = pContext ? pContext->GetQuickEntry(nSlot) : nullptr;
+    if (pEntry) pContext->QuickSelect(pEntry->nModel, ZeroBased(pEntry->nGroup), ZeroBased(pEntry->nServer));
 }
 
 void CDlgSelectEdition::OnDeleteRecord(int nSlot) {
-    CFlashSimulator* pSim = FlashSim();
-    if (!pSim) return;
-    pSim->DeleteQuickEntry(nSlot);
+    IScreenContext* pContext = ScreenContext();
+    if (!pContext) return;
+    pContext->DeleteQuickEntry(nSlot);
     RefreshRecordButtons();
-}
-
-void CDlgSelectEdition::OnSound() {
-    ReportMusicChoice(m_chkSound.GetCheckValue());
-}
-
-void CDlgSelectEdition::OnBack() {
-    StepBack();
-}
-
-void CDlgSelectEdition::OnExit() {
-    AskToLeave();
 }
 
 // ---- records -------------------------------------------------------------------------------------
 
 void CDlgSelectEdition::RefreshRecordButtons() {
-    CFlashSimulator* pSim = FlashSim();
-    if (!pSim) return;
-    const int nRecords = std::min(pSim->GetQuickEntryCount(), MAX_QUICK_ENTRY_AMOUNT);
+    IScreenContext* pContext = ScreenContext();
+    if (!pContext) return;
+    const int nRecords = std::min(pContext->GetQuickEntryCount(), MAX_QUICK_ENTRY_AMOUNT);
     for (int k = 0; k < nRecords; ++k) {
-        const SQuickEntry* pEntry = pSim->GetQuickEntry(k);
+        const SQuickEntry* pEntry = pContext->GetQuickEntry(k);
         if (const SEditionInfo* pEdition = FindEdition(pEntry->nModel))
             m_btnRecord[k].SetSubGround(pEdition->szEntryPicture);
         const std::string text = std::string(pEntry->strGroupName.c_str()) + pEntry->strServerName.c_str();
@@ -123,20 +105,15 @@ void CDlgSelectEdition::RefreshRecordButtons() {
     }
     for (int k = nRecords; k < MAX_QUICK_ENTRY_AMOUNT; ++k) {
         m_btnRecord[k].SetSubGround(EMPTY_ENTRY_PICTURE);
-        m_btnRecord[k].SetWindowTextA(pSim->GetStr(STR_EMPTY_RECORD));
+        m_btnRecord[k].SetWindowTextA(pContext->GetStr(STR_EMPTY_RECORD));
         m_btnRecord[k].SetFontColor(EMPTY_RECORD_COLOUR);
         m_btnDeleteRecord[k].ShowWindow(SW_HIDE);
     }
-}
-
-void CDlgSelectEdition::SetVersionText(const char* szVersion) {
-    if (szVersion) m_staVersion.SetWindowTextA(VersionLabelText(szVersion).c_str());
 }
 
 void CDlgSelectEdition::EnableButtons(bool bEnable) {
     const BOOL b = bEnable ? TRUE : FALSE;
     for (CSimButton& button : m_btnEdition) button.EnableWindow(b);
     for (CSimButton& button : m_btnRecord) button.EnableWindow(b);
-    m_btnBack.EnableWindow(b);
-    m_btnExit.EnableWindow(b);
+    m_frame.EnableNavigation(bEnable);
 }

@@ -4,11 +4,11 @@
 #include <cstdint>
 
 #include "controls/SimButton.h"
-#include "controls/SimCheck.h"
 #include "controls/SimDialog.h"
 #include "controls/SimStatic.h"
+#include "resources/ServerTypes.h"
+#include "screen/ScreenFrame.h"
 #include "servers/EditionInfo.h"
-#include "simulator/ServerTypes.h"
 
 class CDlgSelectEdition : public CSimDialog {
 public:
@@ -41,33 +41,23 @@ public:
 
     /// Shows the current quick-entry records on the three record buttons.
     void RefreshRecordButtons();
-    void SetVersionText(const char* szVersion);
     /// The edition and record buttons, back and exit.
     void EnableButtons(bool bEnable);
-    void SetMusicCheck(bool bOn) { m_chkSound.SetChecked(bOn); }
 
     const CSimButton& GetRecordButton(int nSlot) const { return m_btnRecord[nSlot]; }
     const CSimButton& GetDeleteButton(int nSlot) const { return m_btnDeleteRecord[nSlot]; }
     const CSimStatic& GetEditionTip(int nIndex) const { return m_staEditionTip[nIndex]; }
+    const CScreenFrame& GetFrame() const { return m_frame; }
 
 private:
     void OnEdition(int nIndex);
     void OnRecord(int nSlot);
     void OnDeleteRecord(int nSlot);
-    void OnSound();
-    void OnBack();
-    void OnExit();
 
     CSimButton m_btnEdition[EDITION_COUNT];
     CSimStatic m_staEditionTip[EDITION_COUNT];
     CSimButton m_btnRecord[MAX_QUICK_ENTRY_AMOUNT];
     CSimButton m_btnDeleteRecord[MAX_QUICK_ENTRY_AMOUNT];
-    CSimStatic m_staVersion;
-    CSimButton m_btnBack;
-    CSimButton m_btnExit;
-    CSimCheck m_chkSound;
     CSimStatic m_staEditionBg;
-    CSimStatic m_staBottom1;
-    CSimStatic m_staBottom2;
-    CSimStatic m_staLogo;
+    CScreenFrame m_frame;
 };

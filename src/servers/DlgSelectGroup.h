@@ -5,9 +5,9 @@
 #include <vector>
 
 #include "controls/SimButton.h"
-#include "controls/SimCheck.h"
 #include "controls/SimDialog.h"
 #include "controls/SimStatic.h"
+#include "screen/ScreenFrame.h"
 
 class CDlgSelectGroup : public CSimDialog {
 public:
@@ -53,20 +53,16 @@ public:
     void RefillGroups();
     /// Per frame, after every dialog is drawn: the tip of a marked group under the cursor.
     void ShowMarkTips();
-    void SetVersionText(const char* szVersion);
     /// The group buttons, back and exit.
     void EnableButtons(bool bEnable);
-    void SetMusicCheck(bool bOn) { m_chkSound.SetChecked(bOn); }
 
     const CSimButton& GetGroupButton(int nIndex) const { return m_btnGroup[nIndex]; }
     const std::vector<std::int32_t>& GetGroupMarks() const { return m_vecGroupMarked; }
+    const CScreenFrame& GetFrame() const { return m_frame; }
 
 private:
     void OnGroupClick(int nIndex);
     void OnJoinedServer();
-    void OnSound();
-    void OnBack();
-    void OnExit();
 
     /// The group of a button's extra data, or -1.
     static int GroupOfButton(const CSimButton& button);
@@ -77,14 +73,6 @@ private:
 
     CSimButton m_btnGroup[MAX_GROUP_BUTTONS];
     CSimButton m_btnJoinedServer;
-    CSimButton m_btnBack;
-    CSimButton m_btnExit;
-    CSimCheck m_chkSound;
-    CSimStatic m_staTop1;
-    CSimStatic m_staTop2;
-    CSimStatic m_staBottom1;
-    CSimStatic m_staBottom2;
-    CSimStatic m_staVersion;
-    CSimStatic m_staLogo;
+    CScreenFrame m_frame;
     std::vector<std::int32_t> m_vecGroupMarked;
 };

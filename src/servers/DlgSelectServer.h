@@ -5,10 +5,10 @@
 #include <vector>
 
 #include "controls/SimButton.h"
-#include "controls/SimCheck.h"
 #include "controls/SimDialog.h"
 #include "controls/SimProgress.h"
 #include "controls/SimStatic.h"
+#include "screen/ScreenFrame.h"
 
 class CDlgSelectServer : public CSimDialog {
 public:
@@ -50,21 +50,17 @@ public:
     BOOL PreTranslateMessage(MSG* pMsg) override;
     LRESULT WindowProc(UINT uMsg, WPARAM wParam, LPARAM lParam) override;
 
-    void SetVersionText(const char* szVersion);
     void ShowMarkTips();
     /// The server buttons, back and exit.
     void EnableButtons(bool bEnable);
-    void SetMusicCheck(bool bOn) { m_chkSound.SetChecked(bOn); }
 
     const CSimButton& GetServerButton(int nIndex) const { return m_btnServer[nIndex]; }
     const CSimProgress& GetLoadBar(int nIndex) const { return m_prgLoad[nIndex]; }
     const std::vector<std::int32_t>& GetServerMarks() const { return m_vecServerMarked; }
+    const CScreenFrame& GetFrame() const { return m_frame; }
 
 private:
     void OnServerClick(int nIndex);
-    void OnSound();
-    void OnBack();
-    void OnExit();
 
     /// Name, mark and load bar of server i of the current group (or the empty look when there is none).
     void FillServer(int nIndex, int nServers, const char* szEffect, POINT markOffset);
@@ -75,14 +71,6 @@ private:
     CSimStatic m_staGroupTitle;
     CSimButton m_btnServer[MAX_SERVER_BUTTONS];
     CSimProgress m_prgLoad[MAX_SERVER_BUTTONS];
-    CSimButton m_btnBack;
-    CSimButton m_btnExit;
-    CSimCheck m_chkSound;
-    CSimStatic m_staTop1;
-    CSimStatic m_staTop2;
-    CSimStatic m_staBottom1;
-    CSimStatic m_staBottom2;
-    CSimStatic m_staVersion;
-    CSimStatic m_staLogo;
+    CScreenFrame m_frame;
     std::vector<std::int32_t> m_vecServerMarked;
 };

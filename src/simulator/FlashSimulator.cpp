@@ -2,16 +2,19 @@
 // destruction.
 #include "simulator/FlashSimulator.h"
 
+#include <algorithm>
 #include <cstring>
 #include <new>
 
+#include "common/SysLog.h"
 #include "platform/BaseLib.h"
 #include "platform/GameData.h"
 #include "platform/Log.h"
 #include "platform/RoleLib.h"
 #include "platform/Sound.h"
+#include "simulator/DialogSet.h"
 #include "simulator/MirageApp.h"
-#include "simulator/SysLog.h"
+#include "simulator/VariableProtocol.h"
 
 namespace {
 CFlashSimulator* g_pFlashSimulator = nullptr;
@@ -27,14 +30,53 @@ constexpr int DUMP_PROCESS_END = 5004233;
 constexpr int DUMP_SHOW_BEGIN = 5004234;
 constexpr int DUMP_SHOW_END = 5004235;
 
+constexpr const char* LAYOUT_BASE_NAME = "FlashGui";
+constexpr std::size_t LAYOUT_NAME_SIZE = 260;
+constexpr std::uint32_t STR_GUI_HELPER_SWITCH = 3500000;
+constexpr std::uint32_t STR_PLAYER_LIST_ADDRESS = 8000176;
+constexpr std::uint32_t STR_PLAYER_LIST_NUMBER = 8000177;
+constexpr const char* MUSIC_FILE = "Sound/backGround.mp3";
+constexpr const char* MUSIC_VOLUME_SETTING = "gMusicVolume";
+
 constexpr int FORCED_TYPE_FIRST = 7;
 constexpr int FORCED_TYPE_LAST = 13;
 constexpr int PROFESSION_WITH_SCENE_CHOICE = 100;
 constexpr WORD WINSOCK_VERSION_1_1 = 0x0101;
 constexpr int SHOW_NORMAL = 5;
+
+// Zero-filled like the simulator itself: the dialogs were members of that zero-filled object.
+CDialogSet* NewZeroFilledDialogs() {
+    void* memory = ::operator new(sizeof(CDialogSet));
+    std::memset(memory, 0, sizeof(CDialogSet));
+    try {
+        return new (memory) CDialogSet();
+    } catch (...) {
+        ::operator delete(memory);
+        throw;
+    }
+}
+
+void DeleteZeroFilledDialogs(CDialogSet* pDialogs) {
+    pDialogs->~CDialogSet();
+    ::operator delete(pDialogs);
+}
+
+bool OnGuiSound(const char* szName, std::int32_t n1, std::int32_t n2, std::int32_t n3, std::int32_t n4) {
+    if (!TestSoundFormat(szName)) {
+        RoleDataQuery()->PlaySoundByName(szName);
+        return true;
+    }
+    return DXPlaySound(szName, n1, n2, n3, n4, "", true) != nullptr;
+}
+
+DWORD PlayerListThread(void* pParam);
 } // namespace
 
 CFlashSimulator* FlashSim() {
+    return g_pFlashSimulator;
+}
+
+IScreenContext* ScreenContext() {
     return g_pFlashSimulator;
 }
 
@@ -64,15 +106,7 @@ void FlashSimDestroy() {
 // ---- construction and destruction ----------------------------------------------------------------
 
 CFlashSimulator::CFlashSimulator()
-    : m_bCreated(false), m_pGuiMgr(LuGui::CreateNewGuiMgr()), m_pfnCallBack(nullptr),
-      m_pfnCallBackEx(nullptr), m_nFillGroup(-1), m_nModel(0), m_nGroup(-1), m_nServer(-1), m_nLoginStep(0),
-      m_bNameChecked(false), m_bRoleReady(false), m_nSelFirst(0), m_nSelSecond(0), m_bSelSet(false),
-      m_eSceneType(EST_LOGIN), m_bMusicOn(false), m_nLanguage(0), m_nProfession(0), m_nModelFace(0),
-      m_nLookParity(0), m_nBaseInfoIndex(0), m_nLoginOption(0), m_bNameSuggest(false), m_bDarkKnight(false),
-      m_nNewServer(0), m_nSwitchA(0), m_nSwitchB(0), m_nForcedType(0), m_nMainPathWidth(0),
-      m_nMainPathHeight(0), m_bClassicTokenOnly(false), m_bPlatformModeB(false), m_bPlatformModeA(false),
-      m_bTokenEnabled(true), m_nPlayerListArg(1), m_bRegisterOpen(false), m_bSceneSelectOption(false),
-      m_nExtra1(0), m_nExtra2(0) {
+    : m_pDialogs(NewZeroFilledDialogs(), &DeleteZeroFilledDialogs), m_pGuiMgr(LuGui::CreateNewGuiMgr()) {
 }
 
 CFlashSimulator::~CFlashSimulator() {
@@ -87,9 +121,9 @@ CFlashSimulator::~CFlashSimulator() {
 
 void CFlashSimulator::Create(std::uint64_t hHost, std::uint32_t nHostValue, std::int32_t nLanguage,
                              bool bRegister) {
-    if (m_bCreated) return;
-    m_bCreated = true;
-    m_nLanguage = nLanguage;
+    if (m_state.m_bCreated) return;
+    m_state.m_bCreated = true;
+    m_state.m_nLanguage = nLanguage;
 
     char szLayout[LAYOUT_NAME_SIZE];
     if (nLanguage < 1)
@@ -101,73 +135,27 @@ void CFlashSimulator::Create(std::uint64_t hHost, std::uint32_t nHostValue, std:
     m_strMgr.Load();
     RegisterRangedStrings();
     if (!bRegister) return;
-    if (m_pGuiMgr) m_pGuiMgr->SetSoundCallBack(&CFlashSimulator::OnGuiSound);
-    RegisterDialogs();
-    SwitchGuiHelper();
-}
-
-void CFlashSimulator::RegisterDialogs() {
     if (!m_pGuiMgr) return;
-    // NOTE: the role-creation dialog is registered twice (fifth and tenth); the manager decides what that
-    // means.
-    LuGui::CLuDialog* const order[] = {
-        &m_dlgBG,
-        &m_dlgSelectEdition,
-        &m_dlgSelectGroup,
-        &m_dlgSelectServer,
-        &m_dlgCreateRole,
-        &m_dlgFlashLogin,
-        &m_dlgConfirm,
-        &m_dlgRememberAccount,
-        &m_dlgAddQuickEntry,
-        &m_dlgCreateRole,
-        &m_dlgSelectPro,
-        &m_dlgSelectHead,
-        &m_dlgWeiXinLogin,
-        &m_dlgNewFlashLogin,
-        &m_dlgWardSafeToken,
-        &m_dlgBaseInfo,
-        &m_dlgBack,
-        &m_dlgAction,
-        &m_dlgProIntro,
-        &m_dlgWebRegister,
-        &m_dlgScanCodeLogin,
-        &m_dlgSwitchLanguage,
-        &m_dlgSceneSelect,
-        &m_dlgFlashLoginEn,
-        &m_dlgCharacterEn,
-    };
-    for (LuGui::CLuDialog* dialog : order) m_pGuiMgr->RegisterDialog(dialog, 0, 0);
-}
-
-void CFlashSimulator::SwitchGuiHelper() {
+    m_pGuiMgr->SetSoundCallBack(&OnGuiSound);
+    m_pDialogs->RegisterAll(*m_pGuiMgr);
     LuGui::IGuiHelper* helper = LuGui::GetGuiHelper();
     if (helper && GetStrInt(STR_GUI_HELPER_SWITCH) != 0) helper->Start();
-}
-
-bool CFlashSimulator::OnGuiSound(const char* szName, std::int32_t n1, std::int32_t n2, std::int32_t n3,
-                                 std::int32_t n4) {
-    if (!TestSoundFormat(szName)) {
-        RoleDataQuery()->PlaySoundByName(szName);
-        return true;
-    }
-    return DXPlaySound(szName, n1, n2, n3, n4, "", true) != nullptr;
 }
 
 // ---- callbacks and commands ----------------------------------------------------------------------
 
 void CFlashSimulator::SetCallBack(FlashCallBack pfn) {
-    if (m_bCreated) m_pfnCallBack = pfn;
+    if (m_state.m_bCreated) m_state.m_pfnCallBack = pfn;
 }
 
 void CFlashSimulator::SetCallBackEx(FlashCallBack pfn) {
-    m_pfnCallBackEx = pfn;
+    m_state.m_pfnCallBackEx = pfn;
 }
 
 void CFlashSimulator::NotifyHost(const char* szCommand, const char* szArgument) {
     if (!szCommand || !szArgument) return;
-    if (m_pfnCallBack) m_pfnCallBack(szCommand, szArgument);
-    if (m_pfnCallBackEx) m_pfnCallBackEx(szCommand, szArgument);
+    if (m_state.m_pfnCallBack) m_state.m_pfnCallBack(szCommand, szArgument);
+    if (m_state.m_pfnCallBackEx) m_state.m_pfnCallBackEx(szCommand, szArgument);
 }
 
 // ---- per-frame calls and messages ----------------------------------------------------------------
@@ -176,10 +164,10 @@ void CFlashSimulator::Process() {
     g_nDumpStep = DUMP_PROCESS_BEGIN;
     if (m_pGuiMgr) m_pGuiMgr->Process();
     g_nDumpStep = DUMP_PROCESS_TIPS;
-    m_dlgSelectGroup.ShowMarkTips();
-    m_dlgSelectServer.ShowMarkTips();
+    m_pDialogs->m_dlgSelectGroup.ShowMarkTips();
+    m_pDialogs->m_dlgSelectServer.ShowMarkTips();
     g_nDumpStep = DUMP_PROCESS_SOUND;
-    if (m_bMusicOn) ProcressSound();
+    if (m_state.m_bMusicOn) ProcressSound();
     g_nDumpStep = DUMP_PROCESS_END;
 }
 
@@ -194,12 +182,12 @@ LRESULT CFlashSimulator::WindowProc(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM 
 }
 
 std::int32_t CFlashSimulator::PreTranslateMessage(MSG* pMsg) {
-    if (!m_dlgWebRegister.IsWindowVisible()) return 1;
-    return m_dlgWebRegister.PreTranslateMessage(pMsg);
+    CDlgWebRegisterEn& page = m_pDialogs->m_dlgWebRegister;
+    return page.IsWindowVisible() ? page.PreTranslateMessage(pMsg) : 1;
 }
 
 bool CFlashSimulator::IsWebRegisterVisible() {
-    return m_dlgWebRegister.IsWindowVisible() != FALSE;
+    return m_pDialogs->m_dlgWebRegister.IsWindowVisible() != FALSE;
 }
 
 void CFlashSimulator::ManagerCall(UINT uMsg, WPARAM wParam, LPARAM lParam) {
@@ -208,12 +196,20 @@ void CFlashSimulator::ManagerCall(UINT uMsg, WPARAM wParam, LPARAM lParam) {
 
 // ---- variables and scenes ------------------------------------------------------------------------
 
+void CFlashSimulator::SetVariable(const char* szName, const char* szValue) {
+    SetSimulatorVariable(*this, szName, szValue);
+}
+
+const char* CFlashSimulator::GetVariable(const char* szName) {
+    return GetSimulatorVariable(*this, szName);
+}
+
 void CFlashSimulator::SetSceneType(std::int32_t eScene) {
-    m_eSceneType = static_cast<ESceneType>(eScene);
+    m_state.m_eSceneType = static_cast<ESceneType>(eScene);
 }
 
 void CFlashSimulator::ShowMessage(std::uint32_t nStrId) {
-    m_dlgConfirm.Show(CDlgFlashConfirm::TYPE_ERROR, GetStr(nStrId));
+    ShowMessageBox(MSGBOX_ERROR, GetStr(nStrId));
 }
 
 // ---- strings -------------------------------------------------------------------------------------
@@ -245,53 +241,54 @@ void CFlashSimulator::SetCreateRoleParam(std::int32_t nNewServer, std::int32_t n
                                          std::int32_t nExtra2) {
     if (nForcedType >= FORCED_TYPE_FIRST && nForcedType <= FORCED_TYPE_LAST) {
         // A forced profession hides every server-specific choice.
-        m_nForcedType = nForcedType;
+        m_state.m_nForcedType = nForcedType;
         nNewServer = nSwitchA = nSwitchB = nArcher = 0;
     } else {
-        m_nForcedType = 0;
+        m_state.m_nForcedType = 0;
     }
-    m_bSceneSelectOption = bSceneSelect;
-    m_nExtra1 = nExtra1;
-    m_nExtra2 = nExtra2;
-    m_nNewServer = nNewServer;
-    m_nSwitchA = nSwitchA;
-    m_nSwitchB = nSwitchB;
+    m_state.m_bSceneSelectOption = bSceneSelect;
+    m_state.m_nExtra1 = nExtra1;
+    m_state.m_nExtra2 = nExtra2;
+    m_state.m_nNewServer = nNewServer;
+    m_state.m_nSwitchA = nSwitchA;
+    m_state.m_nSwitchB = nSwitchB;
     // NOTE: passed to the profession dialog and column once they exist (docs/STATUS.md).
     (void)nArcher;
 }
 
+// The forced profession type as a column index: 8, 7, 11, 9, 10, 12, 13 give 0 to 6; anything else 0.
 int CFlashSimulator::GetForcedTypeIndex() const {
     static constexpr int kForcedTypes[] = {8, 7, 11, 9, 10, 12, 13};
     for (int i = 0; i < static_cast<int>(std::size(kForcedTypes)); ++i)
-        if (kForcedTypes[i] == m_nForcedType) return i;
+        if (kForcedTypes[i] == m_state.m_nForcedType) return i;
     return 0;
 }
 
 void CFlashSimulator::SetClassicTokenOnly(bool bOnly) {
-    m_bClassicTokenOnly = bOnly;
+    m_state.m_bClassicTokenOnly = bOnly;
 }
 void CFlashSimulator::SetPlatformModeA(bool bOn) {
-    m_bPlatformModeA = bOn;
+    m_state.m_bPlatformModeA = bOn;
 }
 
 void CFlashSimulator::SetPlatformModeB(bool bOn) {
-    m_bPlatformModeB = bOn;
+    m_state.m_bPlatformModeB = bOn;
     RoleDataQueryEn()->SetPlatformModeB(static_cast<WORD>(bOn));
 }
 
 bool CFlashSimulator::IsPlatformModeA() {
-    return m_bPlatformModeA;
+    return m_state.m_bPlatformModeA;
 }
 bool CFlashSimulator::IsNameChecked() {
-    return m_bNameChecked;
+    return m_state.m_bNameChecked;
 }
 bool CFlashSimulator::IsRoleReady() {
-    return m_bRoleReady;
+    return m_state.m_bRoleReady;
 }
 
 void CFlashSimulator::SetNameCheck(bool bChecked, bool bReady, bool bUpdateReady) {
-    m_bNameChecked = bChecked;
-    if (bUpdateReady) m_bRoleReady = bReady;
+    m_state.m_bNameChecked = bChecked;
+    if (bUpdateReady) m_state.m_bRoleReady = bReady;
     if (!(bChecked && bReady)) return;
 
     const bool unchanged = IsNameUnchanged();
@@ -307,47 +304,47 @@ void CFlashSimulator::SetNameCheck(bool bChecked, bool bReady, bool bUpdateReady
 }
 
 void CFlashSimulator::SetProfession(std::int32_t nProfession) {
-    m_nProfession = nProfession;
+    m_state.m_nProfession = nProfession;
 }
 std::int32_t CFlashSimulator::GetProfession() {
-    return m_nProfession;
+    return m_state.m_nProfession;
 }
 void CFlashSimulator::SetModelFace(std::int32_t nFace) {
-    m_nModelFace = nFace;
+    m_state.m_nModelFace = nFace;
 }
 std::int32_t CFlashSimulator::GetModelFace() {
-    return m_nModelFace;
+    return m_state.m_nModelFace;
 }
 void CFlashSimulator::SetLookParity(std::int32_t nLook) {
-    m_nLookParity = nLook % 2;
+    m_state.m_nLookParity = nLook % 2;
 }
 std::int32_t CFlashSimulator::GetLookParity() {
-    return m_nLookParity;
+    return m_state.m_nLookParity;
 }
 void CFlashSimulator::SetBaseInfoIndex(std::int32_t nIndex) {
-    m_nBaseInfoIndex = nIndex;
+    m_state.m_nBaseInfoIndex = nIndex;
 }
 std::int32_t CFlashSimulator::GetBaseInfoIndex() {
-    return m_nBaseInfoIndex;
+    return m_state.m_nBaseInfoIndex;
 }
 void CFlashSimulator::SetLoginOption(std::int32_t nOption) {
-    m_nLoginOption = nOption;
+    m_state.m_nLoginOption = nOption;
 }
 std::int32_t CFlashSimulator::GetLoginOption() {
-    return m_nLoginOption;
+    return m_state.m_nLoginOption;
 }
 
 bool CFlashSimulator::SetNameSuggest(std::int32_t nValue) {
-    m_bNameSuggest = nValue > 0;
-    return m_bNameSuggest;
+    m_state.m_bNameSuggest = nValue > 0;
+    return m_state.m_bNameSuggest;
 }
 
 bool CFlashSimulator::GetNameSuggest() {
-    return m_bNameSuggest;
+    return m_state.m_bNameSuggest;
 }
 
 void CFlashSimulator::FocusAccountField() {
-    // NOTE: moves the main login dialog's focus once that dialog exists (docs/STATUS.md).
+    m_pDialogs->m_dlgNewFlashLogin.SetCurrentField(INPUT_ACCOUNT);
 }
 
 void CFlashSimulator::SetRandomName(const char* szName, std::int32_t nLength) {
@@ -362,27 +359,27 @@ bool CFlashSimulator::IsNameUnchanged() {
 }
 
 bool CFlashSimulator::GetSelection(std::int32_t* pFirst, std::int32_t* pSecond) {
-    if (pFirst) *pFirst = m_nSelFirst;
-    if (pSecond) *pSecond = m_nSelSecond;
-    return m_bSelSet;
+    if (pFirst) *pFirst = m_state.m_nSelFirst;
+    if (pSecond) *pSecond = m_state.m_nSelSecond;
+    return m_state.m_bSelSet;
 }
 
 void CFlashSimulator::SetSelection(bool bSet, std::int32_t nFirst, std::int32_t nSecond) {
-    m_bSelSet = bSet;
-    m_nSelFirst = nFirst;
-    m_nSelSecond = nSecond;
+    m_state.m_bSelSet = bSet;
+    m_state.m_nSelFirst = nFirst;
+    m_state.m_nSelSecond = nSecond;
 }
 
 void CFlashSimulator::SetPlayerListArg(std::int32_t nArg) {
-    m_nPlayerListArg = nArg;
+    m_state.m_nPlayerListArg = nArg;
 }
 std::int32_t CFlashSimulator::GetPlayerListArg() {
-    return m_nPlayerListArg;
+    return m_state.m_nPlayerListArg;
 }
 
 void CFlashSimulator::ShowSwitchLanguage() {
-    m_dlgSwitchLanguage.EnableWindow(TRUE);
-    m_dlgSwitchLanguage.ShowWindow(SHOW_NORMAL);
+    m_pDialogs->m_dlgSwitchLanguage.EnableWindow(TRUE);
+    m_pDialogs->m_dlgSwitchLanguage.ShowWindow(SHOW_NORMAL);
 }
 
 void CFlashSimulator::RegisterRole() {
@@ -392,7 +389,7 @@ void CFlashSimulator::RegisterRole() {
 // ---- music ---------------------------------------------------------------------------------------
 
 void CFlashSimulator::SetMusic(bool bOn) {
-    m_bMusicOn = bOn;
+    m_state.m_bMusicOn = bOn;
     try {
         if (bOn) DXPlayMedia(MUSIC_FILE, -1, "", true);
         DXSetMusicVolume(bOn ? 100 : 0, MUSIC_VOLUME_SETTING);
@@ -409,12 +406,12 @@ void CFlashSimulator::OpenWebAddress(const char* szAddress) {
 // ---- player list ---------------------------------------------------------------------------------
 
 HANDLE CFlashSimulator::StartPlayerListThread() {
-    void* param = reinterpret_cast<void*>(static_cast<std::intptr_t>(m_nPlayerListArg));
-    return CHandleHelper::CreateThreadProxy(nullptr, 0, &CFlashSimulator::PlayerListThread, param, 0,
-                                            nullptr);
+    void* param = reinterpret_cast<void*>(static_cast<std::intptr_t>(m_state.m_nPlayerListArg));
+    return CHandleHelper::CreateThreadProxy(nullptr, 0, &PlayerListThread, param, 0, nullptr);
 }
 
-DWORD CFlashSimulator::PlayerListThread(void* pParam) {
+namespace {
+DWORD PlayerListThread(void* pParam) {
     // NOTE: machine faults cannot be caught portably here; the Windows build wraps this in a structured
     // handler that reports through LogMsgError.
     try {
@@ -432,4 +429,64 @@ DWORD CFlashSimulator::PlayerListThread(void* pParam) {
         SysLogError(__FILE__, __LINE__, "Catch HttpSocketMsgRecThread");
     }
     return 0;
+}
+} // namespace
+
+// ---- the screens' context --------------------------------------------------------------------------
+
+const SCfgGroup* CFlashSimulator::GetCfgGroup(int nModel, int nGroup) const {
+    return m_strMgr.GetCfgGroup(nModel, nGroup);
+}
+
+void CFlashSimulator::ShowMessageBox(int nKind, const char* szText) {
+    m_pDialogs->m_dlgConfirm.Show(nKind, szText);
+}
+
+void CFlashSimulator::ShowScreen(UINT nTemplateId, bool bShow) {
+    if (CSimDialog* pDialog = m_pDialogs->Find(nTemplateId)) pDialog->ShowWindow(bShow ? SW_SHOW : SW_HIDE);
+}
+
+void CFlashSimulator::OpenWebRegisterPage(const char* szUrl, int nLayoutId, int nReserved) {
+    m_pDialogs->m_dlgWebRegister.OpenPage(szUrl, nLayoutId, nReserved);
+}
+
+void CFlashSimulator::AddListener(IScreenListener* pListener) {
+    if (pListener &&
+        std::find(m_vecListeners.begin(), m_vecListeners.end(), pListener) == m_vecListeners.end())
+        m_vecListeners.push_back(pListener);
+}
+
+void CFlashSimulator::RemoveListener(IScreenListener* pListener) {
+    std::erase(m_vecListeners, pListener);
+}
+
+const char* CFlashSimulator::GetServerName(int nGroup, int nServer) const {
+    return m_lists.GetServerName(nGroup, nServer);
+}
+
+const char* CFlashSimulator::GetCurGroupName() const {
+    return m_lists.GetGroupName(m_state.m_nGroup);
+}
+
+const char* CFlashSimulator::GetCurServerName() const {
+    return m_lists.GetServerName(m_state.m_nGroup, m_state.m_nServer);
+}
+
+float CFlashSimulator::GetServerLoad(int nServer) const {
+    return m_lists.GetServerLoad(m_state.m_nGroup, nServer);
+}
+
+bool CFlashSimulator::IsServerAchTip(int nServer) const {
+    return m_lists.IsServerAchTip(m_state.m_nGroup, nServer);
+}
+
+// The current server exists, carries an achievement tip and switch A is on.
+bool CFlashSimulator::IsAchServer() const {
+    const SServerItem* pServer = m_lists.GetServer(m_state.m_nGroup, m_state.m_nServer);
+    return pServer && pServer->bAchTips && m_state.m_nSwitchA > 0;
+}
+
+const char* CFlashSimulator::GetRecAccount(int nIndex) const {
+    if (nIndex < 0 || nIndex >= GetRecAccountCount()) return nullptr;
+    return m_state.m_vecRecAccount[static_cast<std::size_t>(nIndex)].c_str();
 }

@@ -1,63 +1,24 @@
-// The simulator object: owns every dialog, the dialog manager, the string table and the state the host
-// drives.
+// The simulator: the host's interface, the screens' context, the owner of dialogs, strings, lists and state.
 #pragma once
 
-#include <cstdint>
-#include <string>
+#include <memory>
 #include <vector>
 
-#include "controls/WebBrowserEn.h"
 #include "flashsim/IFlashSimulator.h"
-#include "login/DlgFlashLogin.h"
-#include "login/DlgFlashLoginEn.h"
-#include "login/DlgFlashSwitchLanguageEn.h"
-#include "login/DlgNewFlashLogin.h"
-#include "login/DlgRememberAccount.h"
-#include "login/DlgScanCodeLoginEn.h"
-#include "login/DlgWardSafeToken.h"
-#include "login/DlgWebRegisterEn.h"
-#include "login/DlgWeiXinLogin.h"
 #include "platform/LuGui.h"
-#include "platform/ZrString.h"
 #include "resources/FlashStringMgr.h"
-#include "rolecreate/DlgFlashAction.h"
-#include "rolecreate/DlgFlashBG.h"
-#include "rolecreate/DlgFlashBack.h"
-#include "rolecreate/DlgFlashBaseInfo.h"
-#include "rolecreate/DlgFlashCharacterEn.h"
-#include "rolecreate/DlgFlashConfirm.h"
-#include "rolecreate/DlgFlashCreateRole.h"
-#include "rolecreate/DlgFlashProIntro.h"
-#include "rolecreate/DlgFlashSceneSelect.h"
-#include "rolecreate/DlgFlashSelectHead.h"
-#include "rolecreate/DlgFlashSelectPro.h"
-#include "servers/DlgAddQuickEntry.h"
-#include "servers/DlgSelectEdition.h"
-#include "servers/DlgSelectGroup.h"
-#include "servers/DlgSelectServer.h"
-#include "simulator/ServerTypes.h"
+#include "resources/ServerLists.h"
+#include "screen/ScreenContext.h"
+#include "simulator/SimulatorState.h"
 
-class CFlashSimulator final : public IFlashSimulator {
+class CDialogSet;
+
+class CFlashSimulator final : public IFlashSimulator, public IScreenContext {
 public:
-    static constexpr const char* LAYOUT_BASE_NAME = "FlashGui";
-    static constexpr std::size_t LAYOUT_NAME_SIZE = 260;
-    static constexpr std::uint32_t STR_GUI_HELPER_SWITCH = 3500000;
-    static constexpr std::uint32_t STR_PLAYER_LIST_ADDRESS = 8000176;
-    static constexpr std::uint32_t STR_PLAYER_LIST_NUMBER = 8000177;
-    static constexpr const char* MUSIC_FILE = "Sound/backGround.mp3";
-    static constexpr const char* MUSIC_VOLUME_SETTING = "gMusicVolume";
-    static constexpr std::uint32_t STR_AGREEMENT_NOT_TICKED = 8000102;
-
-    static constexpr int LOGIN_STEP_START = 0;
-    static constexpr int LOGIN_STEP_GROUP = 1;
-    static constexpr int LOGIN_STEP_SERVER = 2;
-    static constexpr int LOGIN_STEP_CLASSIC_LOGIN = 3;
-    static constexpr int LOGIN_STEP_MAIN_LOGIN = 4;
-
     CFlashSimulator();
     ~CFlashSimulator();
 
-    // ---- IFlashSimulator -------------------------------------------------------------------------
+    // ---- IFlashSimulator (slot order) ------------------------------------------------------------
     void Create(std::uint64_t hHost, std::uint32_t nHostValue, std::int32_t nLanguage,
                 bool bRegister) override;
     void SetCallBack(FlashCallBack pfn) override;
@@ -109,236 +70,73 @@ public:
     void ManagerCall(UINT uMsg, WPARAM wParam, LPARAM lParam) override;
     void RegisterRole() override;
 
-    // ---- operations for the dialogs --------------------------------------------------------------
-    /// Hands a command to the primary, then the secondary callback; nothing when either text is null.
-    void NotifyHost(const char* szCommand, const char* szArgument);
-    /// NotifyHost with a number as decimal text.
-    void NotifyHostInt(const char* szCommand, int nValue);
-    /// NotifyHost with the one-based number of a 0-based index (host indices may be any int).
-    void NotifyHostIndex(const char* szCommand, int nIndex);
+    // ---- IScreenContext (what IFlashSimulator does not already declare) --------------------------
+    bool HasStr(std::uint32_t nId) const override { return m_strMgr.HasStr(nId); }
+    const SCfgGroup* GetCfgGroup(int nModel, int nGroup) const override;
+    void NotifyHost(const char* szCommand, const char* szArgument) override;
+    bool IsPlatformModeB() const override { return m_state.m_bPlatformModeB; }
+    bool IsTokenEnabled() const override { return m_state.m_bTokenEnabled; }
+    bool IsRegisterOpen() const override { return m_state.m_bRegisterOpen; }
+    void SetRegisterOpen(bool bOpen) override { m_state.m_bRegisterOpen = bOpen; }
+    int GetMainPathWidth() const override { return m_state.m_nMainPathWidth; }
+    int GetMainPathHeight() const override { return m_state.m_nMainPathHeight; }
+    int GetModel() const override { return m_state.m_nModel; }
+    int GetCurGroup() const override { return m_state.m_nGroup; }
+    int GetCurServer() const override { return m_state.m_nServer; }
+    void StoreCurGroup(int nGroup) override { m_state.m_nGroup = nGroup; }
+    void SetGroup(int nGroup) override;
+    void OnSelectModel(int nModel) override;
+    void OnSelectGroup(int nGroup) override;
+    void OnSelectServer(int nServer) override;
+    void QuickSelect(int nModel, int nGroup, int nServer) override;
+    void OnReturn() override;
+    int GetGroupCount() const override { return m_lists.GetGroupCount(); }
+    const char* GetGroupName(int nGroup) const override { return m_lists.GetGroupName(nGroup); }
+    int GetServerCount() const override { return m_lists.GetServerCount(m_state.m_nGroup); }
+    const char* GetServerName(int nGroup, int nServer) const override;
+    const char* GetCurGroupName() const override;
+    const char* GetCurServerName() const override;
+    float GetServerLoad(int nServer) const override;
+    bool IsGroupAchTip(int nGroup) const override { return m_lists.IsGroupAchTip(nGroup); }
+    bool IsServerAchTip(int nServer) const override;
+    int GetQuickEntryCount() const override { return static_cast<int>(m_state.m_vecQuickEntry.size()); }
+    const SQuickEntry* GetQuickEntry(int nIndex) const override;
+    void DeleteQuickEntry(int nIndex) override;
+    void ReplaceQuickEntry(const SQuickEntry& entry, int nReplaceIndex) override;
+    void FillQuickEntry(SQuickEntry& entry) const override;
+    int GetRecAccountCount() const override { return static_cast<int>(m_state.m_vecRecAccount.size()); }
+    const char* GetRecAccount(int nIndex) const override;
+    bool IsMusicOn() const override { return m_state.m_bMusicOn; }
+    void SetMusic(bool bOn) override;
+    const char* GetVersion() const override { return m_state.m_strVersion.c_str(); }
+    void ShowMessageBox(int nKind, const char* szText) override;
+    void ShowScreen(UINT nTemplateId, bool bShow) override;
+    void OpenWebAddress(const char* szAddress) override;
+    void OpenWebRegisterPage(const char* szUrl, int nLayoutId, int nReserved) override;
+    void AddListener(IScreenListener* pListener) override;
+    void RemoveListener(IScreenListener* pListener) override;
 
-    // Live server lists (indices out of range answer 0, null or false).
-    int GetGroupCount() const;
-    const char* GetGroupName(int nGroup) const;
-    /// Servers of the current group.
-    int GetServerCount() const;
-    int GetServerCountOf(int nGroup) const;
-    const char* GetServerName(int nGroup, int nServer) const;
-    /// Server of the current group.
-    const char* GetServerNameInGroup(int nServer) const;
-    const char* GetCurGroupName() const;
-    const char* GetCurServerName() const;
-    const SServerGroup* GetGroup(int nGroup) const;
-    const SServerItem* GetServer(int nGroup, int nServer) const;
-    /// Players x 100 / capacity of the current server; -1 in maintenance; 0 when none is selected.
-    float GetCurServerLoad() const;
-    /// The same for server n of the current group.
-    float GetServerLoad(int nServer) const;
-    /// Achievement window state of live server (g, s) at the local time: 0 before, 1 inside, 2 after or
-    /// invalid.
-    int GetAchState(int nGroup, int nServer) const;
-    /// Group g shows its achievement tip: its flag is set and one of its servers is inside its window.
-    bool IsGroupAchTip(int nGroup) const;
-    /// Server s of the current group shows its achievement tip.
-    bool IsServerAchTip(int nServer) const;
-    /// The current server exists, carries an achievement tip and switch A is on.
-    bool IsAchServer() const;
-    /// Empties every group's servers, then the group list.
-    void ClearGroups();
-
-    // Scene driver.
-    bool IsGroupFirstLanguage() const;
-    void OnSelectModel(int nModel);
-    void OnSelectGroup(int nGroup);
-    void OnSelectServer(int nServer);
-    void SetGroup(int nGroup);
-    void SetServer(int nServer, bool bOutside);
-    void QuickSelect(int nModel, int nGroup, int nServer);
-    void OnReturn();
-    int GetModel() const { return m_nModel; }
-    int GetCurGroup() const { return m_nGroup; }
-    /// Stores the current group without telling the host.
-    void StoreCurGroup(int nGroup) { m_nGroup = nGroup; }
-    int GetCurServer() const { return m_nServer; }
-    int GetLoginStep() const { return m_nLoginStep; }
-
-    // Quick entries.
-    /// 0 added, 1 already present, 2 list full.
+    // ---- the simulator's own parts (variable protocol, scene driver, tests) -----------------------
     int AddQuickEntry(const SQuickEntry& entry);
-    void ReplaceQuickEntry(const SQuickEntry& entry, int nReplaceIndex);
-    void DeleteQuickEntry(int nIndex);
-    void FillQuickEntry(SQuickEntry& entry) const;
-    int GetQuickEntryCount() const { return static_cast<int>(m_vecQuickEntry.size()); }
-    const SQuickEntry* GetQuickEntry(int nIndex) const;
-
-    // Remembered accounts, version, register-open state.
-    int GetRecAccountCount() const { return static_cast<int>(m_vecRecAccount.size()); }
-    const char* GetRecAccount(int nIndex) const;
-    const char* GetVersion() const { return m_strVersion.c_str(); }
-    bool IsRegisterOpen() const { return m_bRegisterOpen; }
-    void SetRegisterOpen(bool bOpen) { m_bRegisterOpen = bOpen; }
-    int GetMainPathWidth() const { return m_nMainPathWidth; }
-    int GetMainPathHeight() const { return m_nMainPathHeight; }
-    CDlgFlashConfirm& GetConfirmDialog() { return m_dlgConfirm; }
-    CDlgFlashBack& GetBackDialog() { return m_dlgBack; }
-    CDlgSelectEdition& GetEditionDialog() { return m_dlgSelectEdition; }
-    CDlgWebRegisterEn& GetWebRegisterDialog() { return m_dlgWebRegister; }
-    CDlgScanCodeLoginEn& GetScanCodeDialog() { return m_dlgScanCodeLogin; }
-    CDlgFlashLoginEn& GetServerPickerDialog() { return m_dlgFlashLoginEn; }
-    CDlgWeiXinLogin& GetWeiXinDialog() { return m_dlgWeiXinLogin; }
-    CDlgAddQuickEntry& GetAddQuickEntryDialog() { return m_dlgAddQuickEntry; }
-    CDlgSelectGroup& GetGroupDialog() { return m_dlgSelectGroup; }
-    CDlgSelectServer& GetServerDialog() { return m_dlgSelectServer; }
-    CDlgFlashBG& GetBackdropDialog() { return m_dlgBG; }
-    CDlgNewFlashLogin& GetNewFlashLoginDialog() { return m_dlgNewFlashLogin; }
-    /// Switches the login music on or off (the track restarts when switched on).
-    void SetMusic(bool bOn);
-    bool IsMusicOn() const { return m_bMusicOn; }
-    /// Opens a non-empty web address with the system's shell.
-    void OpenWebAddress(const char* szAddress);
-
-    int GetNewServerValue() const { return m_nNewServer; }
-    bool IsSwitchB() const { return m_nSwitchB > 0; }
-    /// The forced profession type as a column index: 8, 7, 11, 9, 10, 12, 13 give 0 to 6; anything else 0.
+    void SetServer(int nServer, bool bOutside);
+    bool IsGroupFirstLanguage() const;
+    bool IsAchServer() const;
     int GetForcedTypeIndex() const;
-    bool IsDarkKnightOn() const { return m_bDarkKnight; }
-    bool IsTokenEnabled() const { return m_bTokenEnabled; }
-    bool IsClassicTokenOnly() const { return m_bClassicTokenOnly; }
-    bool IsPlatformModeB() const { return m_bPlatformModeB; }
-    int GetLanguage() const { return m_nLanguage; }
-    ESceneType GetSceneType() const { return m_eSceneType; }
-    LuGui::ILuGuiMgr* GetGuiMgr() const { return m_pGuiMgr; }
+    CDialogSet& Dialogs() { return *m_pDialogs; }
+    SSimulatorState& State() { return m_state; }
+    CServerLists& Lists() { return m_lists; }
     CFlashStringMgr& GetStringMgr() { return m_strMgr; }
+    LuGui::ILuGuiMgr* GetGuiMgr() const { return m_pGuiMgr; }
+    const std::vector<IScreenListener*>& Listeners() const { return m_vecListeners; }
 
 private:
-    // Variable protocol.
-    using VariableHandler = void (CFlashSimulator::*)(const char* szValue);
-    void OnLoginVariable(const char* szName, const char* szValue);
-    void OnRoleCreateVariable(const char* szName, const char* szValue);
-    const char* GetLoginVariable(const char* szName);
-    static VariableHandler FindHandler(bool bLogin, const char* szName);
-    friend struct VariableTables;
-
-    void VarMainPath(const char* szValue);
-    void VarLoginPass(const char* szValue);
-    void VarFocusToFlash(const char* szValue);
-    void VarPwdIncorrect(const char* szValue);
-    /// The field number VAR_FOCUS answers.
-    int FocusedInputField();
-    void VarQuickLogin(const char* szValue);
-    void VarPlayLogin(const char* szValue);
-    void VarAreaAchTips(const char* szValue);
-    void VarCurVer(const char* szValue);
-    void VarServerArea(const char* szValue);
-    void VarServerName(const char* szValue);
-    void VarServerStatus(const char* szValue);
-    void VarQuickRecord(const char* szValue);
-    void VarSetRecAccount(const char* szValue);
-    void VarVersion(const char* szValue);
-    void VarMusic(const char* szValue);
-    void VarMusicSwitch(const char* szValue);
-    void VarSetKeyDown(const char* szValue);
-    void VarQrCodeLogin(const char* szValue);
-    void VarWeiXinLogin(const char* szValue);
-    void VarShowExit(const char* szValue);
-    void VarEnableToken(const char* szValue);
-    void VarGameBackLogin(const char* szValue);
-    void VarLoginError(const char* szValue);
-    void VarSetRegisterOpen(const char* szValue);
-    void VarResetMainPath(const char* szValue);
-    void VarLoginUser(const char* szValue);
-    void VarLogProtect(const char* szValue);
-    void VarSafeToken(const char* szValue);
-    void VarLoginHelmSafe(const char* szValue);
-    void VarNoEffect(const char* szValue);
-    void VarDialogPending(const char* szValue);
-    void VarPlayLoginWardSafeToken(const char* szValue);
-    void VarStartToFlash(const char* szValue);
-    void VarEndToFlash(const char* szValue);
-    void VarRoleSetMainPath(const char* szValue);
-    void VarDarkKnight(const char* szValue);
-    void VarShowCreateWnd(const char* szValue);
-    void OnAccountLoginKey();
-
-    void SendSpecialServerSignal(int nServer);
-
-    void RegisterDialogs();
-    void SwitchGuiHelper();
-    static bool OnGuiSound(const char* szName, std::int32_t n1, std::int32_t n2, std::int32_t n3,
-                           std::int32_t n4);
-    static DWORD PlayerListThread(void* pParam);
-
-    // Dialogs, in construction order (destroyed in the reverse order).
-    CDlgFlashBG m_dlgBG;
-    CDlgSelectEdition m_dlgSelectEdition;
-    CDlgSelectGroup m_dlgSelectGroup;
-    CDlgSelectServer m_dlgSelectServer;
-    CDlgFlashLogin m_dlgFlashLogin;
-    CDlgFlashConfirm m_dlgConfirm;
-    CDlgRememberAccount m_dlgRememberAccount;
-    CDlgAddQuickEntry m_dlgAddQuickEntry;
-    CDlgFlashCreateRole m_dlgCreateRole;
-    CDlgFlashSelectPro m_dlgSelectPro;
-    CDlgFlashSelectHead m_dlgSelectHead;
-    CDlgWeiXinLogin m_dlgWeiXinLogin;
-    CDlgNewFlashLogin m_dlgNewFlashLogin;
-    CDlgFlashLoginEn m_dlgFlashLoginEn;
-    CDlgFlashCharacterEn m_dlgCharacterEn;
-    CDlgWardSafeToken m_dlgWardSafeToken;
-    CDlgFlashAction m_dlgAction;
-    CDlgFlashBaseInfo m_dlgBaseInfo;
-    CDlgFlashProIntro m_dlgProIntro;
-    CDlgFlashBack m_dlgBack;
-    CDlgWebRegisterEn m_dlgWebRegister;
-    CDlgScanCodeLoginEn m_dlgScanCodeLogin;
-    CWebBrowserEn m_webBrowser;
-    CDlgFlashSwitchLanguageEn m_dlgSwitchLanguage;
-    CDlgFlashSceneSelect m_dlgSceneSelect;
-
-    bool m_bCreated;
+    // NOTE: dialogs are built first and destroyed last; the listeners outlive the frames that leave them.
+    std::vector<IScreenListener*> m_vecListeners;
+    std::unique_ptr<CDialogSet, void (*)(CDialogSet*)> m_pDialogs;
     LuGui::ILuGuiMgr* m_pGuiMgr;
-    FlashCallBack m_pfnCallBack;
-    FlashCallBack m_pfnCallBackEx;
-    std::vector<SServerGroup> m_vecServerGroup;
-    std::int32_t m_nFillGroup;
-    std::int32_t m_nModel;
-    std::int32_t m_nGroup;
-    std::int32_t m_nServer;
-    std::int32_t m_nLoginStep;
-    std::vector<CZrString> m_vecRecAccount;
-    std::vector<SQuickEntry> m_vecQuickEntry;
-    std::string m_strVersion;
-    bool m_bNameChecked;
-    bool m_bRoleReady;
-    std::int32_t m_nSelFirst;
-    std::int32_t m_nSelSecond;
-    bool m_bSelSet;
+    SSimulatorState m_state;
+    CServerLists m_lists;
     CFlashStringMgr m_strMgr;
-    ESceneType m_eSceneType;
-    bool m_bMusicOn;
-    std::int32_t m_nLanguage;
-    std::int32_t m_nProfession;
-    std::int32_t m_nModelFace;
-    std::int32_t m_nLookParity;
-    std::int32_t m_nBaseInfoIndex;
-    std::int32_t m_nLoginOption;
-    bool m_bNameSuggest;
-    bool m_bDarkKnight;
-    std::int32_t m_nNewServer;
-    std::int32_t m_nSwitchA;
-    std::int32_t m_nSwitchB;
-    std::int32_t m_nForcedType;
-    std::int32_t m_nMainPathWidth;
-    std::int32_t m_nMainPathHeight;
-    bool m_bClassicTokenOnly;
-    bool m_bPlatformModeB;
-    bool m_bPlatformModeA;
-    bool m_bTokenEnabled;
-    std::int32_t m_nPlayerListArg;
-    bool m_bRegisterOpen;
-    bool m_bSceneSelectOption;
-    std::int32_t m_nExtra1;
-    std::int32_t m_nExtra2;
 };
 
 /// The process-wide simulator, or null before FlashSimulatorQuery and after FlashSimulatorDestroy.

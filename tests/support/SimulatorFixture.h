@@ -8,6 +8,7 @@
 
 #include "LogCapture.h"
 #include "TempClientDir.h"
+#include "simulator/DialogSet.h"
 #include "simulator/FlashSimulator.h"
 
 class SimulatorFixture : public testing::Test {

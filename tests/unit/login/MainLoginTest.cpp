@@ -25,7 +25,7 @@ protected:
         Set("VAR_SERVER_NAME", "2#Dragon|Tiger|");
         Set("VAR_MAINPATH", "1");
     }
-    CDlgNewFlashLogin& Login() { return m_sim->GetNewFlashLoginDialog(); }
+    CDlgNewFlashLogin& Login() { return m_sim->Dialogs().m_dlgNewFlashLogin; }
     void Press(UINT nId) { Login().WindowProc(WM_COMMAND, nId, 0); }
     const LuGui::CLuCtrl& Ctrl(UINT nId) { return *Login().GetControl(nId); }
     void TickAgreement() {
@@ -47,9 +47,9 @@ TEST_F(MainLoginTest, WithoutTheAgreementNothingIsSentAndTheBoxSaysWhy) {
     TakeCommands();
     Press(CDlgNewFlashLogin::IDC_ENTER);
     EXPECT_TRUE(TakeCommands().empty());
-    EXPECT_TRUE(m_sim->GetConfirmDialog().IsWindowVisible());
-    EXPECT_STREQ(m_sim->GetConfirmDialog().GetText(), "Tick the agreement.");
-    EXPECT_EQ(m_sim->GetConfirmDialog().GetType(), CDlgFlashConfirm::TYPE_ERROR);
+    EXPECT_TRUE(m_sim->Dialogs().m_dlgConfirm.IsWindowVisible());
+    EXPECT_STREQ(m_sim->Dialogs().m_dlgConfirm.GetText(), "Tick the agreement.");
+    EXPECT_EQ(m_sim->Dialogs().m_dlgConfirm.GetType(), CDlgFlashConfirm::TYPE_ERROR);
 }
 
 TEST_F(MainLoginTest, LoginSendsTheAccountChoiceThenEntersAndStoresTheAgreement) {
@@ -158,7 +158,7 @@ TEST_F(MainLoginTest, AccountListChoosesAndForgetsAccounts) {
     TakeCommands();
     Login().WindowProc(LuGui::LU_MSG_LIST_DELETE, CDlgNewFlashLogin::IDC_ACCOUNT_LIST, 0);
     EXPECT_EQ(TakeCommands(), (std::vector<std::string>{"CMD_SELECTACCOUNT hero", "CMD_TEXTSELECT "}));
-    EXPECT_EQ(m_sim->GetConfirmDialog().GetType(), CDlgFlashConfirm::TYPE_CLEAR_ACCOUNT);
+    EXPECT_EQ(m_sim->Dialogs().m_dlgConfirm.GetType(), CDlgFlashConfirm::TYPE_CLEAR_ACCOUNT);
 }
 
 TEST_F(MainLoginTest, HostFocusMovesTheCaretToTheEndAndSelectionEdgesRoundTrip) {
@@ -176,6 +176,22 @@ TEST_F(MainLoginTest, HostFocusMovesTheCaretToTheEndAndSelectionEdgesRoundTrip) 
     EXPECT_STREQ(m_sim->GetVariable("VAR_ENDTOVC"), "4");
     host::SetData("gamedata.inputflag", "1");
     EXPECT_STREQ(m_sim->GetVariable("VAR_FOCUS"), "0");
+}
+
+TEST_F(MainLoginTest, FocusAccountFieldMakesTheAccountTheCurrentField) {
+    Start();
+    Set("VAR_LOGINUSER", "hero");
+    Set("VAR_LOGINPASS", "secret");
+    Set("VAR_FOCUSTOFLASH", "2");
+    TakeCommands();
+    m_sim->FocusAccountField();
+    EXPECT_STREQ(m_sim->GetVariable("VAR_FOCUS"), "1");
+    EXPECT_TRUE(TakeCommands().empty()) << "the host asked for it, so it is not told";
+    Set("VAR_STARTTOFLASH", "1");
+    Set("VAR_ENDTOFLASH", "3");
+    EXPECT_STREQ(m_sim->GetVariable("VAR_STARTTOVC"), "1");
+    EXPECT_STREQ(m_sim->GetVariable("VAR_ENDTOVC"), "3");
+    EXPECT_STREQ(Login().GetAccountText(), "hero");
 }
 
 TEST_F(MainLoginTest, ThePasswordIsNeverLogged) {
@@ -198,8 +214,8 @@ TEST_F(MainLoginTest, AccountCreationPageOpensEmbeddedOnceWhileLocked) {
     TakeCommands();
     Press(CDlgNewFlashLogin::IDC_CREATE_LINK);
     EXPECT_EQ(TakeCommands(), std::vector<std::string>{"BURYING_POINT 117"});
-    EXPECT_TRUE(m_sim->GetWebRegisterDialog().IsWindowVisible());
-    EXPECT_STREQ(m_sim->GetWebRegisterDialog().GetPageUrl(), "https://example.com/register?from=7");
+    EXPECT_TRUE(m_sim->Dialogs().m_dlgWebRegister.IsWindowVisible());
+    EXPECT_STREQ(m_sim->Dialogs().m_dlgWebRegister.GetPageUrl(), "https://example.com/register?from=7");
     EXPECT_TRUE(m_sim->IsRegisterOpen());
     Press(CDlgNewFlashLogin::IDC_CREATE_LINK); // locked: nothing
     EXPECT_TRUE(TakeCommands().empty());
@@ -214,7 +230,7 @@ TEST_F(MainLoginTest, WithoutTheBrowserFolderThePageGoesToTheShell) {
     const int nOpens = host::JournalCount("shell.open");
     Press(CDlgNewFlashLogin::IDC_CREATE_LINK);
     EXPECT_EQ(host::JournalCount("shell.open"), nOpens + 1);
-    EXPECT_FALSE(m_sim->GetWebRegisterDialog().IsWindowVisible());
+    EXPECT_FALSE(m_sim->Dialogs().m_dlgWebRegister.IsWindowVisible());
     EXPECT_FALSE(m_sim->IsRegisterOpen());
 }
 

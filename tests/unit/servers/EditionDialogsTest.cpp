@@ -15,8 +15,8 @@ protected:
         m_dir.Write("ini/ServerState.ini", SERVER_STATE);
         Create(0, STRINGS);
     }
-    CDlgSelectEdition& Editions() { return m_sim->GetEditionDialog(); }
-    CDlgAddQuickEntry& Replacer() { return m_sim->GetAddQuickEntryDialog(); }
+    CDlgSelectEdition& Editions() { return m_sim->Dialogs().m_dlgSelectEdition; }
+    CDlgAddQuickEntry& Replacer() { return m_sim->Dialogs().m_dlgAddQuickEntry; }
     /// Sends command 273 of a control to a dialog, as a click does.
     static void Press(LuGui::CLuDialog& dlg, UINT nId) { dlg.WindowProc(WM_COMMAND, nId, 0); }
     void ThreeRecords() {
@@ -67,7 +67,7 @@ TEST_F(EditionDialogsTest, RecordAndEditionButtonsSelect) {
     EXPECT_EQ(commands[0], "CMD_SELECTMODEL 2");
     EXPECT_EQ(commands[1], "CMD_SELECTGROUP 2");
     EXPECT_EQ(commands[2], "CMD_SELECTSERVER 3");
-    EXPECT_EQ(m_sim->GetLoginStep(), 3);
+    EXPECT_EQ(m_sim->State().m_nLoginStep, 3);
 
     Editions().ShowWindow(SW_SHOW);
     TakeCommands();

@@ -46,8 +46,8 @@ protected:
         Groups().RefillGroups();
         TakeCommands();
     }
-    CDlgSelectGroup& Groups() { return m_sim->GetGroupDialog(); }
-    CDlgSelectServer& Servers() { return m_sim->GetServerDialog(); }
+    CDlgSelectGroup& Groups() { return m_sim->Dialogs().m_dlgSelectGroup; }
+    CDlgSelectServer& Servers() { return m_sim->Dialogs().m_dlgSelectServer; }
     void Click(int x, int y) {
         host::SetCursor(x, y);
         m_sim->WindowProc(nullptr, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(x, y));

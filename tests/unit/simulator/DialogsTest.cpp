@@ -62,7 +62,7 @@ protected:
 };
 
 TEST_F(DialogsTest, ExitQuestionHasTwoButtonsAndOkSendsExitOnce) {
-    CDlgFlashConfirm& box = m_sim->GetConfirmDialog();
+    CDlgFlashConfirm& box = m_sim->Dialogs().m_dlgConfirm;
     box.Show(CDlgFlashConfirm::TYPE_EXIT, nullptr);
     EXPECT_STREQ(box.GetText(), "Leave?");
     const LuGui::CLuCtrl* pOk = box.GetControl(CDlgFlashConfirm::IDC_OK);
@@ -77,7 +77,7 @@ TEST_F(DialogsTest, ExitQuestionHasTwoButtonsAndOkSendsExitOnce) {
 }
 
 TEST_F(DialogsTest, ClearAccountOkSendsClearAndCancelSendsNothing) {
-    CDlgFlashConfirm& box = m_sim->GetConfirmDialog();
+    CDlgFlashConfirm& box = m_sim->Dialogs().m_dlgConfirm;
     box.Show(CDlgFlashConfirm::TYPE_CLEAR_ACCOUNT, nullptr);
     EXPECT_STREQ(box.GetText(), "Forget?");
     ClickControl(box, CDlgFlashConfirm::IDC_CANCEL);
@@ -89,7 +89,7 @@ TEST_F(DialogsTest, ClearAccountOkSendsClearAndCancelSendsNothing) {
 }
 
 TEST_F(DialogsTest, NameRefusalReopensCreationOnlyInTheStandardLayout) {
-    CDlgFlashConfirm& box = m_sim->GetConfirmDialog();
+    CDlgFlashConfirm& box = m_sim->Dialogs().m_dlgConfirm;
     box.Show(CDlgFlashConfirm::TYPE_ERROR, "Error: Illegal Name!");
     EXPECT_EQ(box.GetType(), CDlgFlashConfirm::TYPE_NAME_REFUSED);
     ClickControl(box, CDlgFlashConfirm::IDC_OK);
@@ -105,7 +105,7 @@ TEST_F(DialogsTest, NameRefusalReopensCreationOnlyInTheStandardLayout) {
 TEST_F(DialogsTest, BoxMovesByTheMainWindowSize) {
     Set("ResetMainPath", "1280-800-1");
     ASSERT_EQ(m_sim->GetMainPathWidth(), 1280);
-    CDlgFlashConfirm& box = m_sim->GetConfirmDialog();
+    CDlgFlashConfirm& box = m_sim->Dialogs().m_dlgConfirm;
     box.Show(CDlgFlashConfirm::TYPE_ERROR, "x");
     // Left and bottom of the box in its own client coordinates are 0 and its height.
     EXPECT_EQ(box.GetWindowRect().left, 0 - 1024 + 1280 - 300 / 2);
@@ -114,7 +114,7 @@ TEST_F(DialogsTest, BoxMovesByTheMainWindowSize) {
 }
 
 TEST_F(DialogsTest, BackButtonSendsThreeCommandsInOrder) {
-    CDlgFlashBack& back = m_sim->GetBackDialog();
+    CDlgFlashBack& back = m_sim->Dialogs().m_dlgBack;
     back.ShowWindow(SW_SHOW);
     ClickControl(back, CDlgFlashBack::IDC_BACK);
     EXPECT_EQ(TakeCommands(),
@@ -124,7 +124,7 @@ TEST_F(DialogsTest, BackButtonSendsThreeCommandsInOrder) {
 TEST_F(DialogsTest, BackdropPlacesTheCameraAndDrawsItsLayoutBackground) {
     host::UseCanvas(host::CanvasKind::Recording);
     host::BeginFrame();
-    m_sim->GetBackdropDialog().ShowWindow(SW_SHOW);
+    m_sim->Dialogs().m_dlgBG.ShowWindow(SW_SHOW);
     m_sim->Show();
     int x = 0, y = 0, mode = 0;
     double distance = 0;

@@ -7,6 +7,7 @@
 #include "LogCapture.h"
 #include "TempClientDir.h"
 #include "platform/BaseLib.h"
+#include "simulator/DialogSet.h"
 #include "simulator/FlashSimulator.h"
 
 namespace {
@@ -48,7 +49,7 @@ TEST_F(Simulator, QueryReturnsOneObjectAndAFreshOneAfterDestroy) {
     ASSERT_NE(second, nullptr);
     EXPECT_EQ(second->GetPlayerListArg(), 1);
     EXPECT_TRUE(second->IsTokenEnabled());
-    EXPECT_EQ(second->GetSceneType(), EST_LOGIN);
+    EXPECT_EQ(second->State().m_eSceneType, EST_LOGIN);
     EXPECT_FALSE(second->IsMusicOn());
 }
 
@@ -62,7 +63,7 @@ TEST_F(Simulator, CreateRegistersEveryDialogInOrderOnce) {
                                                "2000", "1022", "1023", "1024"};
     EXPECT_EQ(Registered(), expected);
     EXPECT_EQ(host::JournalCount("gui.init"), 1);
-    EXPECT_EQ(sim->GetLanguage(), 0);
+    EXPECT_EQ(sim->State().m_nLanguage, 0);
 }
 
 TEST_F(Simulator, LayoutFileNameFollowsTheLanguage) {
@@ -107,13 +108,13 @@ TEST_F(Simulator, PrimaryCallbackCountsOnlyAfterCreate) {
 TEST_F(Simulator, ForcedProfessionTypeHidesServerValues) {
     CFlashSimulator* sim = FlashSimQuery();
     sim->SetCreateRoleParam(5, 6, 7, 8, 9, true, 1, 2);
-    EXPECT_EQ(sim->GetNewServerValue(), 0);
-    EXPECT_FALSE(sim->IsSwitchB());
+    EXPECT_EQ(sim->State().m_nNewServer, 0);
+    EXPECT_FALSE(sim->State().m_nSwitchB > 0);
     EXPECT_EQ(sim->GetForcedTypeIndex(), 3);
     for (int notForced : {6, 14}) {
         sim->SetCreateRoleParam(5, 6, 7, 8, notForced, false, 0, 0);
-        EXPECT_EQ(sim->GetNewServerValue(), 5);
-        EXPECT_TRUE(sim->IsSwitchB());
+        EXPECT_EQ(sim->State().m_nNewServer, 5);
+        EXPECT_TRUE(sim->State().m_nSwitchB > 0);
         EXPECT_EQ(sim->GetForcedTypeIndex(), 0);
     }
     const int types[] = {8, 7, 11, 9, 10, 12, 13};

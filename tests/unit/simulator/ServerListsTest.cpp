@@ -33,11 +33,11 @@ TEST_F(ServerLists, AreaTakesOnlyNamesClosedByABarUpToTheCount) {
 TEST_F(ServerLists, NamesFillGroupsInOrderAndStopAfterTheLast) {
     Create();
     Push("2#East|West|", {"2#S1|S2|", "1#W1|", "1#Extra|"});
-    EXPECT_EQ(m_sim->GetServerCountOf(0), 2);
+    EXPECT_EQ(m_sim->Lists().GetServerCount(0), 2);
     EXPECT_STREQ(m_sim->GetServerName(1, 0), "W1");
-    EXPECT_EQ(m_sim->GetServerCountOf(2), 0);
+    EXPECT_EQ(m_sim->Lists().GetServerCount(2), 0);
     EXPECT_EQ(m_sim->GetServerName(0, 2), nullptr);
-    const SServerItem* s = m_sim->GetServer(0, 1);
+    const SServerItem* s = m_sim->Lists().GetServer(0, 1);
     ASSERT_NE(s, nullptr);
     EXPECT_EQ(s->nStatus, 1);
     EXPECT_EQ(s->nMaxPlayers, 100);
@@ -49,7 +49,7 @@ TEST_F(ServerLists, StatusUpdatesServersAndLoadsReadBack) {
     Set("VAR_SERVERSTATUS", "1#2_50_0_1|1_30_60_1|3_5_10_0|0_1_1_1|9_1_1_1|2_1_1|");
     m_sim->SetGroup(0);
     m_sim->SetServer(1, false);
-    EXPECT_FLOAT_EQ(m_sim->GetCurServerLoad(), 5000.0f) << "capacity 0 counts as 1";
+    EXPECT_FLOAT_EQ(m_sim->GetServerLoad(m_sim->GetCurServer()), 5000.0f) << "capacity 0 counts as 1";
     EXPECT_FLOAT_EQ(m_sim->GetServerLoad(0), 50.0f);
     EXPECT_FLOAT_EQ(m_sim->GetServerLoad(2), -1.0f) << "state 0: maintenance";
     EXPECT_FLOAT_EQ(m_sim->GetServerLoad(5), 0.0f);
@@ -59,7 +59,7 @@ TEST_F(ServerLists, StatusUpdatesServersAndLoadsReadBack) {
     Set("VAR_SERVERSTATUS", "0#1_1_1_1|");
     EXPECT_FLOAT_EQ(m_sim->GetServerLoad(0), 99.0f);
     m_sim->SetGroup(4);
-    EXPECT_FLOAT_EQ(m_sim->GetCurServerLoad(), 0.0f);
+    EXPECT_FLOAT_EQ(m_sim->GetServerLoad(m_sim->GetCurServer()), 0.0f);
     EXPECT_EQ(m_sim->GetCurGroupName(), nullptr);
 }
 
@@ -70,16 +70,16 @@ TEST_F(ServerLists, AchievementTipsNeedAMatchingCountAndAWindowAroundNow) {
         "Server2=2\nAchTips2=1\nAchTime2=100-50\n");
     Push("2#East|West|", {"2#A|B|", "1#C|"});
     Set("VAR_AREA_ACH_TIPS", "1");
-    EXPECT_FALSE(m_sim->GetGroup(0)->bAchTips) << "one value for two groups changes nothing";
+    EXPECT_FALSE(m_sim->Lists().GetGroup(0)->bAchTips) << "one value for two groups changes nothing";
     Set("VAR_AREA_ACH_TIPS", "0|1");
-    EXPECT_FALSE(m_sim->GetGroup(0)->bAchTips);
-    EXPECT_TRUE(m_sim->GetGroup(1)->bAchTips);
+    EXPECT_FALSE(m_sim->Lists().GetGroup(0)->bAchTips);
+    EXPECT_TRUE(m_sim->Lists().GetGroup(1)->bAchTips);
 
     Set("VAR_CUR_VER", "2");
-    EXPECT_TRUE(m_sim->GetGroup(0)->bAchTips);
-    EXPECT_EQ(m_sim->GetAchState(0, 0), ACH_INSIDE);
-    EXPECT_EQ(m_sim->GetAchState(0, 1), ACH_AFTER) << "an end before the start is never inside";
-    EXPECT_EQ(m_sim->GetAchState(3, 0), ACH_AFTER);
+    EXPECT_TRUE(m_sim->Lists().GetGroup(0)->bAchTips);
+    EXPECT_EQ(m_sim->Lists().GetAchState(0, 0), ACH_INSIDE);
+    EXPECT_EQ(m_sim->Lists().GetAchState(0, 1), ACH_AFTER) << "an end before the start is never inside";
+    EXPECT_EQ(m_sim->Lists().GetAchState(3, 0), ACH_AFTER);
     EXPECT_TRUE(m_sim->IsGroupAchTip(0));
     EXPECT_FALSE(m_sim->IsGroupAchTip(1)) << "flag set but no server inside its window";
     m_sim->SetGroup(0);
@@ -87,12 +87,12 @@ TEST_F(ServerLists, AchievementTipsNeedAMatchingCountAndAWindowAroundNow) {
     EXPECT_FALSE(m_sim->IsServerAchTip(1));
 
     host::SetLocalTime({1970, 1, 1, 0, 30, 0});
-    EXPECT_EQ(m_sim->GetAchState(0, 0), ACH_BEFORE);
+    EXPECT_EQ(m_sim->Lists().GetAchState(0, 0), ACH_BEFORE);
 }
 
 TEST_F(ServerLists, GroupFirstLanguagesIgnoreTheModelsDecorations) {
     Create(1007, "", "[Header]\nGroupAmount=1\n[Group1]\nServerAmount=1\nServer1=1\nAchTips1=1\n");
     Set("VAR_SERVER_AREA", "1#East|");
     Set("VAR_CUR_VER", "2");
-    EXPECT_FALSE(m_sim->GetGroup(0)->bAchTips);
+    EXPECT_FALSE(m_sim->Lists().GetGroup(0)->bAchTips);
 }

@@ -13,14 +13,14 @@ TEST_F(Variables, NamesMatchWithoutCaseOnlyInTheirOwnScene) {
     Set("VAR_QRCODE_LOGIN", "");
     Set("DarkKnightCanCrate", "1");
     EXPECT_TRUE(TakeCommands().empty());
-    EXPECT_TRUE(m_sim->IsDarkKnightOn());
+    EXPECT_TRUE(m_sim->State().m_bDarkKnight);
     Set("DARKKNIGHTCANCRATE", "2");
-    EXPECT_TRUE(m_sim->IsDarkKnightOn()) << "other values are ignored";
+    EXPECT_TRUE(m_sim->State().m_bDarkKnight) << "other values are ignored";
     Set("darkknightcancrate", "0");
-    EXPECT_FALSE(m_sim->IsDarkKnightOn());
+    EXPECT_FALSE(m_sim->State().m_bDarkKnight);
     m_sim->SetSceneType(7);
     Set("DarkKnightCanCrate", "1");
-    EXPECT_FALSE(m_sim->IsDarkKnightOn()) << "an unknown scene understands nothing";
+    EXPECT_FALSE(m_sim->State().m_bDarkKnight) << "an unknown scene understands nothing";
     Set(std::string(5000, 'v').c_str(), "1");
 }
 
@@ -40,7 +40,7 @@ TEST_F(Variables, GettersDependOnTheScene) {
 TEST_F(Variables, MainPathStartsTheSceneOnlyOnce) {
     Create();
     Set("VAR_MAINPATH", "x");
-    EXPECT_EQ(m_sim->GetLoginStep(), 4);
+    EXPECT_EQ(m_sim->State().m_nLoginStep, 4);
     // No last login is known: the current (unset) selection, then the main login's opening event.
     EXPECT_EQ(TakeCommands(), (CommandList{"CMD_SELECTMODEL 0", "CMD_SELECTGROUP 0", "CMD_EX_SELECTSERVER 0",
                                            "BURYING_POINT 112"}));
@@ -53,11 +53,11 @@ TEST_F(Variables, GroupFirstLanguagesStartAtTheGroupDialog) {
     Set("VAR_SERVER_AREA", "1#East|");
     Set("VAR_MAINPATH", "");
     EXPECT_EQ(TakeCommands(), CommandList{"CMD_SELECTMODEL 2"});
-    EXPECT_EQ(m_sim->GetLoginStep(), 1);
+    EXPECT_EQ(m_sim->State().m_nLoginStep, 1);
     EXPECT_EQ(m_sim->GetGroupCount(), 0) << "the list is emptied at the start";
     m_sim->OnReturn();
     EXPECT_EQ(TakeCommands(), CommandList{"CMD_RETURN "});
-    EXPECT_EQ(m_sim->GetLoginStep(), 1);
+    EXPECT_EQ(m_sim->State().m_nLoginStep, 1);
 }
 
 TEST_F(Variables, QuickAndPlayLoginNeedTheirExactNumberCount) {
@@ -72,7 +72,7 @@ TEST_F(Variables, QuickAndPlayLoginNeedTheirExactNumberCount) {
     EXPECT_TRUE(TakeCommands().empty());
     Set("VAR_PLAYLOGIN", "1 4");
     EXPECT_EQ(TakeCommands(), (CommandList{"CMD_SELECTGROUP 2", "CMD_SELECTSERVER 5"}));
-    EXPECT_EQ(m_sim->GetLoginStep(), 3);
+    EXPECT_EQ(m_sim->State().m_nLoginStep, 3);
 }
 
 TEST_F(Variables, SpecialServersSignalOnceWhenEnteredAndOnceWhenLeft) {
@@ -101,7 +101,7 @@ TEST_F(Variables, ReturnWalksTheChainBack) {
     EXPECT_EQ(TakeCommands(), CommandList{"CMD_SELECTMODEL 3"});
     EXPECT_EQ(m_sim->GetGroupCount(), 0) << "the group list waits for the host again";
     m_sim->OnReturn();
-    EXPECT_EQ(m_sim->GetLoginStep(), 0);
+    EXPECT_EQ(m_sim->State().m_nLoginStep, 0);
     EXPECT_EQ(TakeCommands(), CommandList{"GET_QUCIK_RECORD "}) << "the edition screen asks for the records";
     m_sim->OnReturn();
     EXPECT_EQ(TakeCommands(), CommandList{"CMD_RETURNLOGIN "});
@@ -111,8 +111,8 @@ TEST_F(Variables, LoginKeyChecksTheAgreementAndTheRegisterPage) {
     Create();
     Set("VAR_SETKEYDOWN", "1");
     EXPECT_TRUE(TakeCommands().empty());
-    EXPECT_EQ(m_sim->GetConfirmDialog().GetType(), CDlgFlashConfirm::TYPE_ERROR);
-    EXPECT_STREQ(m_sim->GetConfirmDialog().GetText(), "Tick the agreement.");
+    EXPECT_EQ(m_sim->Dialogs().m_dlgConfirm.GetType(), CDlgFlashConfirm::TYPE_ERROR);
+    EXPECT_STREQ(m_sim->Dialogs().m_dlgConfirm.GetText(), "Tick the agreement.");
 
     m_sim->SetPlatformModeA(true);
     m_sim->SetRegisterOpen(true);
@@ -125,7 +125,7 @@ TEST_F(Variables, LoginKeyChecksTheAgreementAndTheRegisterPage) {
     Set("VAR_SETKEYDOWN", "9");
     EXPECT_EQ(TakeCommands(), CommandList{"CMD_ENTERGAME 3"});
     Set("VAR_SETKEYDOWN", "0");
-    EXPECT_EQ(m_sim->GetConfirmDialog().GetType(), CDlgFlashConfirm::TYPE_EXIT);
+    EXPECT_EQ(m_sim->Dialogs().m_dlgConfirm.GetType(), CDlgFlashConfirm::TYPE_EXIT);
 }
 
 TEST_F(Variables, RecordedAccountsKeepEmptyPiecesButNoTrailingOne) {
@@ -143,10 +143,10 @@ TEST_F(Variables, RecordedAccountsKeepEmptyPiecesButNoTrailingOne) {
 TEST_F(Variables, SafeTokenIsMaskedAndCutButLoggedAsSent) {
     Create();
     Set("VAR_LOGINHELMSAFE", "123456");
-    EXPECT_STREQ(m_sim->GetNewFlashLoginDialog().GetTokenText(), "******");
+    EXPECT_STREQ(m_sim->Dialogs().m_dlgNewFlashLogin.GetTokenText(), "******");
     EXPECT_EQ(testlog::Count("DEBUG", "safetoken : 123456"), 1);
     Set("VAR_LOGINHELMSAFE", std::string(1000, '7').c_str());
-    EXPECT_EQ(std::string(m_sim->GetNewFlashLoginDialog().GetTokenText()), std::string(255, '*'));
+    EXPECT_EQ(std::string(m_sim->Dialogs().m_dlgNewFlashLogin.GetTokenText()), std::string(255, '*'));
 }
 
 TEST_F(Variables, MusicAndManagerResets) {
@@ -169,8 +169,8 @@ TEST_F(Variables, MusicAndManagerResets) {
 TEST_F(Variables, LoginErrorWithANameRefusalDependsOnTheLayout) {
     Create();
     Set("SetLoginError", "Error: Illegal Name!");
-    EXPECT_EQ(m_sim->GetConfirmDialog().GetType(), CDlgFlashConfirm::TYPE_NAME_REFUSED);
+    EXPECT_EQ(m_sim->Dialogs().m_dlgConfirm.GetType(), CDlgFlashConfirm::TYPE_NAME_REFUSED);
     host::SetData("language", "English");
     Set("SetLoginError", "Error: Illegal Name!");
-    EXPECT_EQ(m_sim->GetConfirmDialog().GetType(), CDlgFlashConfirm::TYPE_ERROR);
+    EXPECT_EQ(m_sim->Dialogs().m_dlgConfirm.GetType(), CDlgFlashConfirm::TYPE_ERROR);
 }

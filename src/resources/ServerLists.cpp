@@ -1,10 +1,11 @@
-// The live server lists: filled from the host's variables, decorated from the configuration, read by the
-// dialogs.
+// The live server lists the host pushes (groups, their servers, loads and achievement windows) and the reads
+// the screens make of them.
+#include "resources/ServerLists.h"
+
 #include <string>
 
 #include "platform/BaseLib.h"
 #include "resources/TextScan.h"
-#include "simulator/FlashSimulator.h"
 
 namespace {
 constexpr std::size_t MIN_TRAILING_ENTRY_LENGTH = 6;
@@ -33,27 +34,26 @@ std::vector<std::string_view> ClosedNames(std::string_view text, int nCount) {
 }
 } // namespace
 
-// ---- filled by the host
-// -----------------------------------------------------------------------------------------
+// ---- filled by the host ----------------------------------------------------------------------------
 
-void CFlashSimulator::VarServerArea(const char* szValue) {
+bool CServerLists::SetGroups(std::string_view value) {
     int nCount = 0;
     std::string_view names;
-    if (!SplitCount(szValue, nCount, names) || nCount < 1) return;
-    ClearGroups();
+    if (!SplitCount(value, nCount, names) || nCount < 1) return false;
+    Clear();
     for (std::string_view name : ClosedNames(names, nCount)) {
         SServerGroup group;
         group.strName = name;
         m_vecServerGroup.push_back(std::move(group));
     }
     m_nFillGroup = 0;
-    if (IsGroupFirstLanguage() && m_dlgSelectGroup.IsWindowVisible()) m_dlgSelectGroup.RefillGroups();
+    return true;
 }
 
-void CFlashSimulator::VarServerName(const char* szValue) {
+void CServerLists::FillNextGroup(std::string_view value) {
     int nCount = 0;
     std::string_view names;
-    if (!SplitCount(szValue, nCount, names) || nCount < 0) return;
+    if (!SplitCount(value, nCount, names) || nCount < 0) return;
     if (m_nFillGroup < 0 || m_nFillGroup >= GetGroupCount()) return;
     std::vector<SServerItem>& servers = m_vecServerGroup[static_cast<std::size_t>(m_nFillGroup)].vecServer;
     servers.clear();
@@ -65,10 +65,10 @@ void CFlashSimulator::VarServerName(const char* szValue) {
     ++m_nFillGroup;
 }
 
-void CFlashSimulator::VarServerStatus(const char* szValue) {
+void CServerLists::SetStatus(std::string_view value) {
     int nGroup = 0;
     std::string_view entries;
-    if (!SplitCount(szValue, nGroup, entries) || nGroup < 1 || nGroup > GetGroupCount()) return;
+    if (!SplitCount(value, nGroup, entries) || nGroup < 1 || nGroup > GetGroupCount()) return;
     std::vector<SServerItem>& servers = m_vecServerGroup[static_cast<std::size_t>(nGroup - 1)].vecServer;
     auto apply = [&servers](std::string_view entry) {
         const auto v = textscan::ReadIntsSeparated(entry, '_', 4);
@@ -84,25 +84,21 @@ void CFlashSimulator::VarServerStatus(const char* szValue) {
     if (rest.size() >= MIN_TRAILING_ENTRY_LENGTH) apply(rest);
 }
 
-void CFlashSimulator::VarAreaAchTips(const char* szValue) {
-    if (!*szValue) return;
+bool CServerLists::SetGroupAchTips(std::string_view value) {
+    if (value.empty()) return false;
     std::vector<int> values;
-    const std::string_view rest =
-        textscan::ForEachTerminated(szValue, '|', [&values](std::string_view piece) {
-            values.push_back(SafeAtoi(std::string(piece).c_str()));
-            return true;
-        });
+    const std::string_view rest = textscan::ForEachTerminated(value, '|', [&values](std::string_view piece) {
+        values.push_back(SafeAtoi(std::string(piece).c_str()));
+        return true;
+    });
     values.push_back(SafeAtoi(std::string(rest).c_str()));
-    if (values.empty() || values.size() != m_vecServerGroup.size()) return;
+    if (values.size() != m_vecServerGroup.size()) return false;
     for (std::size_t i = 0; i < values.size(); ++i) m_vecServerGroup[i].bAchTips = values[i] > 0;
-    if (IsGroupFirstLanguage() && m_dlgSelectGroup.IsWindowVisible()) m_dlgSelectGroup.RefreshGroupMarks();
+    return true;
 }
 
-void CFlashSimulator::VarCurVer(const char* szValue) {
-    if (IsGroupFirstLanguage()) return;
-    const CfgGroupMap* groups = m_strMgr.GetCfgGroups(SafeAtoi(szValue));
-    if (!groups) return;
-    for (const auto& [index, cfgGroup] : *groups) {
+void CServerLists::ApplyConfig(const CfgGroupMap& groups) {
+    for (const auto& [index, cfgGroup] : groups) {
         if (index < 0 || index >= GetGroupCount()) continue;
         SServerGroup& group = m_vecServerGroup[static_cast<std::size_t>(index)];
         group.bAchTips = cfgGroup.bAchTips;
@@ -116,71 +112,48 @@ void CFlashSimulator::VarCurVer(const char* szValue) {
     }
 }
 
-void CFlashSimulator::ClearGroups() {
+void CServerLists::Clear() {
     for (SServerGroup& group : m_vecServerGroup) group.vecServer.clear();
     m_vecServerGroup.clear();
 }
 
-// ---- reads
-// ------------------------------------------------------------------------------------------------------
+// ---- reads -----------------------------------------------------------------------------------------
 
-const SServerGroup* CFlashSimulator::GetGroup(int nGroup) const {
+const SServerGroup* CServerLists::GetGroup(int nGroup) const {
     if (nGroup < 0 || nGroup >= GetGroupCount()) return nullptr;
     return &m_vecServerGroup[static_cast<std::size_t>(nGroup)];
 }
 
-const SServerItem* CFlashSimulator::GetServer(int nGroup, int nServer) const {
+const SServerItem* CServerLists::GetServer(int nGroup, int nServer) const {
     const SServerGroup* group = GetGroup(nGroup);
     if (!group || nServer < 0 || nServer >= static_cast<int>(group->vecServer.size())) return nullptr;
     return &group->vecServer[static_cast<std::size_t>(nServer)];
 }
 
-int CFlashSimulator::GetGroupCount() const {
-    return static_cast<int>(m_vecServerGroup.size());
-}
-
-const char* CFlashSimulator::GetGroupName(int nGroup) const {
+const char* CServerLists::GetGroupName(int nGroup) const {
     const SServerGroup* group = GetGroup(nGroup);
     return group ? group->strName.c_str() : nullptr;
 }
 
-int CFlashSimulator::GetServerCount() const {
-    return GetServerCountOf(m_nGroup);
-}
-
-int CFlashSimulator::GetServerCountOf(int nGroup) const {
+int CServerLists::GetServerCount(int nGroup) const {
     const SServerGroup* group = GetGroup(nGroup);
     return group ? static_cast<int>(group->vecServer.size()) : 0;
 }
 
-const char* CFlashSimulator::GetServerName(int nGroup, int nServer) const {
+const char* CServerLists::GetServerName(int nGroup, int nServer) const {
     const SServerItem* server = GetServer(nGroup, nServer);
     return server ? server->strName.c_str() : nullptr;
 }
 
-const char* CFlashSimulator::GetServerNameInGroup(int nServer) const {
-    return GetServerName(m_nGroup, nServer);
-}
-const char* CFlashSimulator::GetCurGroupName() const {
-    return GetGroupName(m_nGroup);
-}
-const char* CFlashSimulator::GetCurServerName() const {
-    return GetServerName(m_nGroup, m_nServer);
-}
-
-float CFlashSimulator::GetServerLoad(int nServer) const {
-    const SServerItem* server = GetServer(m_nGroup, nServer);
+float CServerLists::GetServerLoad(int nGroup, int nServer) const {
+    const SServerItem* server = GetServer(nGroup, nServer);
     if (!server) return 0.0f;
     if (server->nStatus <= 0) return -1.0f;
     const int capacity = server->nMaxPlayers > 0 ? server->nMaxPlayers : 1;
     return static_cast<float>(static_cast<double>(server->nCurPlayers) * 100.0 / capacity);
 }
 
-float CFlashSimulator::GetCurServerLoad() const {
-    return GetServerLoad(m_nServer);
-}
-
-int CFlashSimulator::GetAchState(int nGroup, int nServer) const {
+int CServerLists::GetAchState(int nGroup, int nServer) const {
     std::int64_t now = 0;
     if (!GetSafeLocalTime(now)) return ACH_BEFORE;
     const SServerItem* server = GetServer(nGroup, nServer);
@@ -190,7 +163,7 @@ int CFlashSimulator::GetAchState(int nGroup, int nServer) const {
     return ACH_BEFORE;
 }
 
-bool CFlashSimulator::IsGroupAchTip(int nGroup) const {
+bool CServerLists::IsGroupAchTip(int nGroup) const {
     const SServerGroup* group = GetGroup(nGroup);
     if (!group || !group->bAchTips) return false;
     for (int s = 0; s < static_cast<int>(group->vecServer.size()); ++s)
@@ -198,12 +171,7 @@ bool CFlashSimulator::IsGroupAchTip(int nGroup) const {
     return false;
 }
 
-bool CFlashSimulator::IsServerAchTip(int nServer) const {
-    const SServerItem* server = GetServer(m_nGroup, nServer);
-    return server && server->bAchTips && GetAchState(m_nGroup, nServer) == ACH_INSIDE;
-}
-
-bool CFlashSimulator::IsAchServer() const {
-    const SServerItem* server = GetServer(m_nGroup, m_nServer);
-    return server && server->bAchTips && m_nSwitchA > 0;
+bool CServerLists::IsServerAchTip(int nGroup, int nServer) const {
+    const SServerItem* server = GetServer(nGroup, nServer);
+    return server && server->bAchTips && GetAchState(nGroup, nServer) == ACH_INSIDE;
 }

@@ -1,17 +1,17 @@
 // Layout numbers from the string table: decimal numbers separated by blanks ("%d %d", "%d %d %d %d").
-#include "simulator/LayoutNumbers.h"
+#include "screen/LayoutNumbers.h"
 
 #include "platform/Log.h"
 #include "resources/TextScan.h"
-#include "simulator/FlashSimulator.h"
+#include "screen/ScreenContext.h"
 
 int ReadLayoutNumbers(std::uint32_t nId, std::span<int> out, const char* szFile, int nLine) {
-    CFlashSimulator* sim = FlashSim();
-    if (!sim || !sim->GetStringMgr().HasStr(nId)) {
+    IScreenContext* pContext = ScreenContext();
+    if (!pContext || !pContext->HasStr(nId)) {
         LogLocalErrMsg("sscanf_s source NULL !!! line %d file %s", nLine, _log::CutFileName(szFile));
         return 0;
     }
-    const auto numbers = textscan::ReadInts(sim->GetStr(nId), out.size());
+    const auto numbers = textscan::ReadInts(pContext->GetStr(nId), out.size());
     for (std::size_t i = 0; i < numbers.size(); ++i) out[i] = numbers[i];
     return static_cast<int>(numbers.size());
 }

@@ -1,6 +1,6 @@
 // Adds the keys every structured line of the system carries ("svr_time", "__cb__") before handing it to the
 // log.
-#include "simulator/SysLog.h"
+#include "common/SysLog.h"
 
 #include <string>
 
