@@ -1,7 +1,9 @@
 // The message box every screen uses: its kind decides its text, its buttons and what they send.
 #include "rolecreate/DlgFlashConfirm.h"
 
+#include <algorithm>
 #include <cstring>
+#include <limits>
 
 #include "platform/GameData.h"
 #include "platform/Input.h"
@@ -14,14 +16,18 @@ namespace {
 constexpr const char* NAME_REFUSED_TEXTS[] = {"This name already exists. Please enter a new one.",
                                               "Error: Illegal Name!"};
 constexpr const char* ENGLISH_LANGUAGE = "English";
-// The box's placement formula counts from the client's reference screen.
-constexpr int REFERENCE_WIDTH = 1024;
-constexpr int REFERENCE_HEIGHT = 768;
 
 bool IsNameRefusal(const char* szText) {
     for (const char* text : NAME_REFUSED_TEXTS)
         if (std::strcmp(szText, text) == 0) return true;
     return false;
+}
+
+// Where a span of nInner starts when centred on nOuter; any host size fits, the sum is taken in 64 bits.
+int CentredStart(int nOuter, int nInner) {
+    const std::int64_t start = (static_cast<std::int64_t>(nOuter) - nInner) / 2;
+    return static_cast<int>(
+        std::clamp<std::int64_t>(start, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
 }
 
 bool IsStandardCreationLayout() {
@@ -101,13 +107,12 @@ void CDlgFlashConfirm::Show(int nType, const char* szText) {
 void CDlgFlashConfirm::PlaceByMainWindow() {
     IScreenContext* pContext = ScreenContext();
     if (!pContext) return;
-    RECT rc = GetWindowRect();
-    ScreenToClient(&rc);
+    // NOTE: the client's formula (left - 1024 + W - w / 2, bottom + H - 768) lands where the toolkit's
+    // coordinate conversion puts it; ours has none that makes it centre, so the box is centred directly.
     const int nWidth = GetWidth();
     const int nHeight = GetHeight();
-    const int x = rc.left - REFERENCE_WIDTH + pContext->GetMainPathWidth() - nWidth / 2;
-    const int y = rc.bottom + pContext->GetMainPathHeight() - REFERENCE_HEIGHT;
-    MoveWindow(x, y, nWidth, nHeight, TRUE);
+    MoveWindow(CentredStart(pContext->GetMainPathWidth(), nWidth),
+               CentredStart(pContext->GetMainPathHeight(), nHeight), nWidth, nHeight, TRUE);
 }
 
 void CDlgFlashConfirm::ArrangeButtons() {

@@ -47,7 +47,7 @@ private:
     void OnOk();
     void OnCancel();
 
-    /// Moves the box by the main window's size (kept width and height).
+    /// Centres the box on the main window (kept width and height).
     void PlaceByMainWindow();
     /// Places OK and shows or hides Cancel for the kind.
     void ArrangeButtons();

@@ -126,6 +126,20 @@ TEST_F(SelectDialogsTest, VersionAndMusicFollowTheHostWhileVisible) {
     ASSERT_TRUE(Servers().IsWindowVisible());
     const LuGui::CLuCtrl* pVersion = Servers().GetControl(CDlgSelectServer::IDC_VERSION);
     EXPECT_STREQ(pVersion->GetWindowTextA(), "Version 2.5");
+    EXPECT_FALSE(Servers().GetFrame().GetMusicCheck().GetCheckValue());
+    Set("VAR_MUSIC", "1");
+    EXPECT_TRUE(Servers().GetFrame().GetMusicCheck().GetCheckValue());
+    EXPECT_FALSE(Groups().GetFrame().GetMusicCheck().GetCheckValue()) << "hidden screens catch up when shown";
+    Set("VAR_VERSION", "");
+    EXPECT_STREQ(pVersion->GetWindowTextA(), "Version 2.5") << "an empty version is no version";
+}
+
+TEST_F(SelectDialogsTest, WithoutAVersionTheLabelKeepsItsLayoutText) {
+    const LuGui::CLuCtrl* pGroupVersion = Groups().GetControl(CDlgSelectGroup::IDC_VERSION);
+    EXPECT_STRNE(pGroupVersion->GetWindowTextA(), "Version ");
+    ClickWindow(Groups().GetGroupButton(0));
+    ASSERT_TRUE(Servers().IsWindowVisible());
+    EXPECT_STRNE(Servers().GetControl(CDlgSelectServer::IDC_VERSION)->GetWindowTextA(), "Version ");
 }
 
 TEST_F(SelectDialogsTest, ServersShowDisplayedLoadsWordsAndTips) {

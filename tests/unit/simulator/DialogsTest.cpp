@@ -2,6 +2,8 @@
 // backdrop.
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
 #include "SimulatorFixture.h"
 #include "hostlibs/HostCanvas.h"
 #include "platform/Graphics.h"
@@ -102,15 +104,35 @@ TEST_F(DialogsTest, NameRefusalReopensCreationOnlyInTheStandardLayout) {
     EXPECT_EQ(box.GetType(), CDlgFlashConfirm::TYPE_ERROR);
 }
 
-TEST_F(DialogsTest, BoxMovesByTheMainWindowSize) {
-    Set("ResetMainPath", "1280-800-1");
-    ASSERT_EQ(m_sim->GetMainPathWidth(), 1280);
+TEST_F(DialogsTest, BoxIsCentredOnTheMainWindowAtEverySize) {
     CDlgFlashConfirm& box = m_sim->Dialogs().m_dlgConfirm;
-    box.Show(CDlgFlashConfirm::TYPE_ERROR, "x");
-    // Left and bottom of the box in its own client coordinates are 0 and its height.
-    EXPECT_EQ(box.GetWindowRect().left, 0 - 1024 + 1280 - 300 / 2);
-    EXPECT_EQ(box.GetWindowRect().top, 160 + 800 - 768);
-    EXPECT_EQ(box.GetWidth(), 300);
+    const std::pair<int, int> sizes[] = {{800, 600}, {1024, 768}, {1280, 800}, {1920, 1080}};
+    for (const auto& [nWidth, nHeight] : sizes) {
+        Set("ResetMainPath", (std::to_string(nWidth) + "-" + std::to_string(nHeight) + "-1").c_str());
+        for (int nKind :
+             {CDlgFlashConfirm::TYPE_ERROR, CDlgFlashConfirm::TYPE_INPUT, CDlgFlashConfirm::TYPE_EXIT}) {
+            box.Show(nKind, "x");
+            const RECT rc = box.GetWindowRect();
+            SCOPED_TRACE(std::to_string(nWidth) + "x" + std::to_string(nHeight) + " kind " +
+                         std::to_string(nKind));
+            EXPECT_GE(rc.left, 0);
+            EXPECT_GE(rc.top, 0);
+            EXPECT_LE(rc.right, nWidth);
+            EXPECT_LE(rc.bottom, nHeight);
+            EXPECT_LE(std::abs((rc.left + rc.right) - nWidth), 1) << "centred across";
+            EXPECT_LE(std::abs((rc.top + rc.bottom) - nHeight), 1) << "centred down";
+            const RECT ok = box.GetControl(CDlgFlashConfirm::IDC_OK)->GetWindowRect();
+            EXPECT_TRUE(ok.left >= rc.left && ok.right <= rc.right && ok.top >= rc.top &&
+                        ok.bottom <= rc.bottom)
+                << "OK lies inside the box";
+        }
+    }
+}
+
+TEST_F(DialogsTest, HugeMainWindowSizesDoNotOverflowThePlacement) {
+    Set("ResetMainPath", "2147483647-2147483647-0");
+    m_sim->Dialogs().m_dlgConfirm.Show(CDlgFlashConfirm::TYPE_ERROR, "x");
+    EXPECT_GT(m_sim->Dialogs().m_dlgConfirm.GetWindowRect().left, 0);
 }
 
 TEST_F(DialogsTest, BackButtonSendsThreeCommandsInOrder) {
