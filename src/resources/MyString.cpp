@@ -1,8 +1,10 @@
 // Conversion of printf-style formats to fmt's, and formatting that cannot fail.
 #include "resources/MyString.h"
 
+#include <algorithm>
 #include <cctype>
 #include <cstring>
+#include <string>
 
 namespace {
 
@@ -24,6 +26,66 @@ std::size_t ConversionLength(std::string_view format, std::size_t i) {
     while (j < format.size() && std::strchr(LENGTH_CHARS, format[j])) ++j;
     if (j < format.size() && format[j] != '\0' && std::strchr(CONVERSION_CHARS, format[j])) return j + 1 - i;
     return 0;
+}
+
+bool IsDigit(char c) {
+    return std::isdigit(static_cast<unsigned char>(c)) != 0;
+}
+
+// The spec of one replacement field (after ':') with every width and precision cut to the longest text and
+// dynamic ones ("{:{}}") dropped, so that a format from a file cannot ask for gigabytes of padding.
+void AppendBoundedSpec(std::string_view spec, std::string& out) {
+    std::size_t i = 0;
+    while (i < spec.size()) {
+        if (spec[i] == '{') {
+            const std::size_t close = spec.find('}', i);
+            i = close == std::string_view::npos ? spec.size() : close + 1;
+        } else if (IsDigit(spec[i])) {
+            std::size_t end = i;
+            while (end < spec.size() && IsDigit(spec[end])) ++end;
+            const std::string_view digits = spec.substr(i, end - i);
+            const bool bTooLong = digits.size() > 4 || std::stoul(std::string(digits)) > CMyString::MAX_TEXT;
+            out += bTooLong ? std::to_string(CMyString::MAX_TEXT) : std::string(digits);
+            i = end;
+        } else {
+            out += spec[i++];
+        }
+    }
+}
+
+// The format with bounded widths and precisions; everything else byte for byte.
+std::string BoundFieldSpecs(std::string_view format) {
+    std::string out;
+    out.reserve(format.size());
+    std::size_t i = 0;
+    while (i < format.size()) {
+        const char c = format[i];
+        if (c != '{' || (i + 1 < format.size() && format[i + 1] == '{')) {
+            const std::size_t n = c == '{' ? 2 : 1;
+            out.append(format.substr(i, n));
+            i += n;
+            continue;
+        }
+        // A field: its name up to ':' as it is, its spec bounded, up to the '}' that closes it.
+        std::size_t end = i + 1;
+        int depth = 1;
+        while (end < format.size() && depth > 0) {
+            if (format[end] == '{') ++depth;
+            if (format[end] == '}') --depth;
+            ++end;
+        }
+        const std::string_view field = format.substr(i + 1, depth == 0 ? end - i - 2 : end - i - 1);
+        const std::size_t colon = field.find(':');
+        out += '{';
+        out.append(field.substr(0, colon));
+        if (colon != std::string_view::npos) {
+            out += ':';
+            AppendBoundedSpec(field.substr(colon + 1), out);
+        }
+        if (depth == 0) out += '}';
+        i = end;
+    }
+    return out;
 }
 
 } // namespace
@@ -56,13 +118,14 @@ std::string CMyString::TransfromOldFmt2NewFmt(std::string_view format) {
 
 std::string CMyString::FormatArgs(std::string_view format, fmt::format_args args) {
     const std::string converted =
-        IsOldFormatStr(format) ? TransfromOldFmt2NewFmt(format) : std::string(format);
-    std::string text;
+        BoundFieldSpecs(IsOldFormatStr(format) ? TransfromOldFmt2NewFmt(format) : format);
+    std::string text(MAX_TEXT, '\0');
     try {
-        text = fmt::vformat(converted, args);
+        // NOTE: written in place up to the limit; a longer result is counted, never built.
+        const auto result = fmt::vformat_to_n(text.data(), text.size(), converted, args);
+        text.resize(std::min(result.size, text.size()));
     } catch (const fmt::format_error&) {
-        text.assign(format);
+        text.assign(format.substr(0, MAX_TEXT));
     }
-    if (text.size() > MAX_TEXT) text.resize(MAX_TEXT);
     return text;
 }

@@ -8,6 +8,7 @@
 
 #include "LogCapture.h"
 #include "TempClientDir.h"
+#include "resources/MyString.h"
 #include "simulator/DialogSet.h"
 #include "simulator/FlashSimulator.h"
 

@@ -34,3 +34,14 @@ TEST(MyString, ResultsAreCutAtTheLimit) {
     const std::string big(10000, 'x');
     EXPECT_EQ(CMyString::Format("{}", big).size(), CMyString::MAX_TEXT);
 }
+
+TEST(MyString, WidthsAndPrecisionsFromFilesAreBounded) {
+    for (const char* format : {"{:>2000000000}", "{:.2000000000}", "{:>99999999999999999999}", "{:{}}",
+                               "{0:*^100000}", "%2000000000s"}) {
+        const std::string text = CMyString::Format(format, "v");
+        EXPECT_LE(text.size(), CMyString::MAX_TEXT) << format;
+    }
+    EXPECT_EQ(CMyString::Format("{:>6}|{:0>3}", "ab", 7), "    ab|007") << "ordinary widths stay";
+    EXPECT_EQ(CMyString::Format("{:.2f}", 3.14159), "3.14");
+    EXPECT_EQ(CMyString::Format("{{{}}}", 1), "{1}");
+}
