@@ -1,5 +1,8 @@
 // The main login screen: controls and handlers, the two lists, the per-frame link timer and delete mark, and
 // the operations the simulator calls for the host's variables.
+//
+// Index: constants; controls; initialisation and frames; messages; handlers; operations for the simulator;
+// checked looks. The texts, the server label and the layouts are in DlgNewFlashLoginTexts.cpp.
 #include "login/DlgNewFlashLogin.h"
 
 #include <algorithm>
@@ -202,7 +205,7 @@ void CDlgNewFlashLogin::PreSetParam() {
     m_listLanguage.SetItemLayout(font[0], font[1], rows[2]);
 }
 
-// ---- initialisation and frames ---------------------------------------------------------------------
+// ---- initialisation and frames -------------------------------------------------------------------
 
 BOOL CDlgNewFlashLogin::OnInitDialog() {
     CSimDialog::OnInitDialog();
@@ -537,7 +540,7 @@ void CDlgNewFlashLogin::OnFieldFocus(int nField) {
     m_nFocusField = nField;
 }
 
-// ---- operations for the simulator ------------------------------------------------------------------
+// ---- operations for the simulator ----------------------------------------------------------------
 
 CSimEdit* CDlgNewFlashLogin::EditOfField(int nField, bool bAllowAccountFields) {
     if (nField == INPUT_ACCOUNT && bAllowAccountFields) return &m_editAccount;
@@ -612,7 +615,7 @@ void CDlgNewFlashLogin::OnBackToLogin(bool bFirst) {
     RoleDataQueryEn()->SetSetting("Register", 1);
 }
 
-// ---- checked looks ---------------------------------------------------------------------------------
+// ---- checked looks -------------------------------------------------------------------------------
 
 bool CDlgNewFlashLogin::IsAgreementChecked() const {
     return std::strcmp(m_btnAgreement.GetBackGroundAni(), CHECKED_LOOK) == 0;

@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
+#include "common/SysLog.h"
 #include "platform/BaseLib.h"
 #include "resources/TextScan.h"
-#include "common/SysLog.h"
 
 namespace {
 constexpr std::size_t LINE_BUFFER_SIZE = 1024;
@@ -90,8 +90,9 @@ void CFlashStringMgr::Clear() {
 }
 
 const char* CFlashStringMgr::GetStr(std::uint32_t nId) const {
-    // One buffer for every miss, as callers only keep a fallback text until their next lookup.
-    static char s_szMiss[64];
+    // One buffer per thread for every miss, as callers only keep a fallback text until their next lookup on
+    // the same thread; a worker's miss can never overwrite the host's.
+    thread_local char s_szMiss[64];
     if (m_bLoading) {
         SafeSprintf(s_szMiss, sizeof s_szMiss, "FlashStrIniting%u", nId);
         return s_szMiss;

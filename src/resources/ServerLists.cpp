@@ -34,7 +34,7 @@ std::vector<std::string_view> ClosedNames(std::string_view text, int nCount) {
 }
 } // namespace
 
-// ---- filled by the host ----------------------------------------------------------------------------
+// ---- filled by the host --------------------------------------------------------------------------
 
 bool CServerLists::SetGroups(std::string_view value) {
     int nCount = 0;
@@ -117,7 +117,7 @@ void CServerLists::Clear() {
     m_vecServerGroup.clear();
 }
 
-// ---- reads -----------------------------------------------------------------------------------------
+// ---- reads ---------------------------------------------------------------------------------------
 
 const SServerGroup* CServerLists::GetGroup(int nGroup) const {
     if (nGroup < 0 || nGroup >= GetGroupCount()) return nullptr;

@@ -1,10 +1,15 @@
 // The simulator object: creation, per-frame calls, the interface operations, commands to the host,
 // destruction.
+//
+// Index: singleton and helpers; construction and destruction; creation; callbacks and commands; per-frame
+// calls and messages; variables and scenes; strings; creation parameters and stored values; music; player
+// list; the screens' context.
 #include "simulator/FlashSimulator.h"
 
 #include <algorithm>
 #include <cstring>
 #include <new>
+#include <string>
 
 #include "common/SysLog.h"
 #include "platform/BaseLib.h"
@@ -68,6 +73,13 @@ bool OnGuiSound(const char* szName, std::int32_t n1, std::int32_t n2, std::int32
     }
     return DXPlaySound(szName, n1, n2, n3, n4, "", true) != nullptr;
 }
+
+// What the player-list worker needs, copied for it: it shares nothing with the host's thread.
+struct SPlayerListJob {
+    std::string strAddress;
+    int nNumber = 0;
+    int nArg = 0;
+};
 
 DWORD PlayerListThread(void* pParam);
 } // namespace
@@ -406,23 +418,25 @@ void CFlashSimulator::OpenWebAddress(const char* szAddress) {
 // ---- player list ---------------------------------------------------------------------------------
 
 HANDLE CFlashSimulator::StartPlayerListThread() {
-    void* param = reinterpret_cast<void*>(static_cast<std::intptr_t>(m_state.m_nPlayerListArg));
-    return CHandleHelper::CreateThreadProxy(nullptr, 0, &PlayerListThread, param, 0, nullptr);
+    // NOTE: the worker gets copies of the two texts it needs, read here on the host's thread, so that a
+    // reload of the strings or the simulator's end while it runs leaves it nothing freed to read.
+    auto job = std::make_unique<SPlayerListJob>(SPlayerListJob{
+        GetStr(STR_PLAYER_LIST_ADDRESS), GetStrInt(STR_PLAYER_LIST_NUMBER), m_state.m_nPlayerListArg});
+    HANDLE hThread = CHandleHelper::CreateThreadProxy(nullptr, 0, &PlayerListThread, job.get(), 0, nullptr);
+    if (hThread) job.release(); // the worker owns it now
+    return hThread;
 }
 
 namespace {
 DWORD PlayerListThread(void* pParam) {
+    const std::unique_ptr<SPlayerListJob> job(static_cast<SPlayerListJob*>(pParam));
     // NOTE: machine faults cannot be caught portably here; the Windows build wraps this in a structured
     // handler that reports through LogMsgError.
     try {
         CHttpGetSvrPlayerList downloader;
         WSADATA wsa{};
         if (WSAStartup(WINSOCK_VERSION_1_1, &wsa) == 0) {
-            CFlashSimulator* sim = FlashSim();
-            const std::string address = sim ? sim->GetStr(STR_PLAYER_LIST_ADDRESS) : "";
-            const int number = sim ? sim->GetStrInt(STR_PLAYER_LIST_NUMBER) : 0;
-            downloader.DownloadFile(address.c_str(), number,
-                                    static_cast<int>(reinterpret_cast<std::intptr_t>(pParam)));
+            downloader.DownloadFile(job->strAddress.c_str(), job->nNumber, job->nArg);
             WSACleanup();
         }
     } catch (...) {
@@ -432,7 +446,7 @@ DWORD PlayerListThread(void* pParam) {
 }
 } // namespace
 
-// ---- the screens' context --------------------------------------------------------------------------
+// ---- the screens' context ------------------------------------------------------------------------
 
 const SCfgGroup* CFlashSimulator::GetCfgGroup(int nModel, int nGroup) const {
     return m_strMgr.GetCfgGroup(nModel, nGroup);

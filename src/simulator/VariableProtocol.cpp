@@ -1,4 +1,7 @@
 // The variable protocol: the host's named variables, dispatched by name per scene, and what each one does.
+//
+// Index: name folding; login scene; role-creation scene; live server lists; quick entries; getters; the two
+// vocabularies and the dispatch.
 #include <cctype>
 #include <string>
 #include <string_view>
@@ -37,6 +40,8 @@ bool EqualsNoCase(const char* a, const char* b) {
             return false;
     return *a == *b;
 }
+
+// ---- login scene ---------------------------------------------------------------------------------
 
 void VarNoEffect(CFlashSimulator& sim, const char*) {
 }
@@ -221,7 +226,7 @@ void VarResetMainPath(CFlashSimulator& sim, const char* szValue) {
     if (v.size() >= 2) sim.State().m_nMainPathHeight = v[1];
 }
 
-// ---- role-creation scene ----------------------------------------------------------------------
+// ---- role-creation scene -------------------------------------------------------------------------
 
 void VarRoleSetMainPath(CFlashSimulator& sim, const char* szValue) {
     if (sim.GetGuiMgr()) sim.GetGuiMgr()->Reset(0);
@@ -266,7 +271,7 @@ void VarShowCreateWnd(CFlashSimulator& sim, const char* szValue) {
     sim.Dialogs().m_dlgSceneSelect.ShowWindow(SW_HIDE);
 }
 
-// ---- live server lists -----------------------------------------------------------------------------
+// ---- live server lists ---------------------------------------------------------------------------
 
 void VarServerArea(CFlashSimulator& sim, const char* szValue) {
     if (!sim.Lists().SetGroups(szValue)) return;
@@ -294,7 +299,7 @@ void VarCurVer(CFlashSimulator& sim, const char* szValue) {
         sim.Lists().ApplyConfig(*groups);
 }
 
-// ---- quick entries -----------------------------------------------------------------------------------
+// ---- quick entries -------------------------------------------------------------------------------
 
 constexpr std::size_t QUICK_NAME_SIZE = 260;
 bool IsBlank(char c) {
@@ -347,6 +352,8 @@ void VarQuickRecord(CFlashSimulator& sim, const char* szValue) {
     if (rest.size() >= MIN_TRAILING_RECORD_LENGTH) add(rest);
 }
 
+// ---- getters -------------------------------------------------------------------------------------
+
 int FocusedInputField(CFlashSimulator& sim) {
     CDialogSet& dialogs = sim.Dialogs();
     if (RoleDataQueryEn()->IsInputFlagSet()) return 0;
@@ -378,6 +385,8 @@ const char* GetLoginVariable(CFlashSimulator& sim, const char* szName) {
     SafeItoA(nResult, s_szResult, sizeof s_szResult, 10);
     return s_szResult;
 }
+
+// ---- the two vocabularies and the dispatch -------------------------------------------------------
 
 // The two vocabularies, keyed by the lower-cased name, so that dispatch costs one hash whatever their size.
 struct VariableTables {
