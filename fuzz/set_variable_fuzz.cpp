@@ -1,5 +1,5 @@
 // Drives SetVariable and GetVariable with names from the whole vocabulary and arbitrary values in both
-// scenes.
+// scenes, with frames and window messages between them as a host sends them.
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -87,14 +87,32 @@ CFlashSimulator* Simulator() {
 }
 } // namespace
 
-// Input: a sequence of (scene byte, name byte, value length byte, value bytes) steps.
+// The messages a host forwards between its variables; the point comes from the step's bytes.
+constexpr UINT MESSAGES[] = {WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP, WM_CHAR};
+
+// Input: a sequence of (control byte, name byte, value length byte, value bytes) steps. The control byte's
+// low bits choose the scene; bit 4 runs a frame first; bit 5 sends a message (bits 6-7 choose it) at a point
+// taken from the name and length bytes.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     CFlashSimulator* sim = Simulator();
     std::size_t pos = 0;
     while (pos + 3 <= size) {
-        const std::uint8_t scene = data[pos];
+        const std::uint8_t control = data[pos];
+        const std::uint8_t scene = control & 0x0F;
         const char* name = NAMES[data[pos + 1] % NAME_COUNT];
         std::size_t length = data[pos + 2];
+        if (control & 0x10) {
+            sim->Process();
+            sim->Show();
+        }
+        if (control & 0x20) {
+            const UINT message = MESSAGES[control >> 6];
+            const LPARAM point = MAKELPARAM(data[pos + 1] * 4, data[pos + 2] * 3);
+            const WPARAM key = message == WM_CHAR ? data[pos + 1] : 0;
+            MSG msg{nullptr, message, key, point, 0, {}};
+            sim->PreTranslateMessage(&msg);
+            sim->WindowProc(nullptr, message, key, point);
+        }
         if (length == 255) length = 70000; // now and then a value far past every buffer
         pos += 3;
         std::string value;
