@@ -1,5 +1,11 @@
 // The auto text: prepares line-break marks, lays text out in runs and lines by estimated widths, aligns and
 // draws it.
+//
+// Index:
+//   helpers       tags, numbers, byte scans, line-break marks
+//   construction  constructors, SetText and its kept layout, setters
+//   layout        Layout, Align
+//   drawing       Show, the clip test, DrawRun
 #include "controls/SimAutoText.h"
 
 #include <algorithm>
@@ -10,6 +16,8 @@
 #include "platform/GameData.h"
 #include "platform/GameGraphic.h"
 #include "platform/Graphics.h"
+
+// ---- helpers -------------------------------------------------------------------------------------
 
 namespace {
 

@@ -1,4 +1,10 @@
 // Executes scenario steps against the system library and writes the transcript.
+//
+// Index:
+//   helpers          callbacks and log lines as transcript lines, ranges of step numbers
+//   running          construction, the log sink, Run, errors
+//   steps            one function per step
+//   window messages  mouse, typed characters, keys and the control descriptions of "show"
 #include "ScenarioRunner.h"
 
 #include <cstdio>
@@ -11,6 +17,8 @@
 #include "hostlibs/HostCanvas.h"
 #include "hostlibs/HostEnv.h"
 #include "hostlibs/HostGui.h"
+
+// ---- helpers ---------------------------------------------------------------------------------------
 
 namespace {
 Transcript* g_pTranscript = nullptr;
@@ -47,6 +55,8 @@ constexpr long long COORD_LOW = INT16_MIN, COORD_HIGH = INT16_MAX; // a mouse me
 constexpr long long MAX_FRAMES_PER_STEP = 1000000;
 constexpr long long MAX_VIRTUAL_KEY = 255;
 } // namespace
+
+// ---- running ---------------------------------------------------------------------------------------
 
 ScenarioRunner::ScenarioRunner(const RunOptions& options, Transcript& transcript)
     : m_options(options), m_transcript(transcript) {
@@ -126,6 +136,8 @@ void ScenarioRunner::Execute(const ScenarioStep& step) {
     if (name == "show") return StepShow(step);
     Fail(step, "unknown step \"" + EscapeText(name) + "\"");
 }
+
+// ---- steps -----------------------------------------------------------------------------------------
 
 void ScenarioRunner::StepDir(const ScenarioStep& step) {
     if (step.words.size() != 2) return Fail(step, "dir takes a path");
