@@ -1,5 +1,11 @@
 // The auto text: prepares line-break marks, lays text out in runs and lines by estimated widths, aligns and
 // draws it.
+//
+// Index:
+//   helpers       tags, numbers, byte scans, line-break marks
+//   construction  constructors, SetText and its kept layout, setters
+//   layout        Layout, Align
+//   drawing       Show, the clip test, DrawRun
 #include "controls/SimAutoText.h"
 
 #include <algorithm>
@@ -11,6 +17,8 @@
 #include "platform/GameGraphic.h"
 #include "platform/Graphics.h"
 
+// ---- helpers -------------------------------------------------------------------------------------
+
 namespace {
 
 constexpr DWORD OPAQUE_ALPHA = 0xFF000000;
@@ -18,6 +26,7 @@ constexpr DWORD RGB_WHITE = 0x00FFFFFF;
 constexpr std::size_t MAX_DRAWN_TEXT = 1024;
 constexpr std::size_t MAX_DRAWN_UNITS = 512;
 constexpr int UNDERLINE_GAP = 2;
+constexpr int MIN_GLYPH_REACH = 16;
 constexpr UINT CODE_PAGE_UTF8 = 65001;
 constexpr const char* ENGLISH_LANGUAGE = "English";
 constexpr std::size_t NO_POSITION = static_cast<std::size_t>(-1);
@@ -194,19 +203,33 @@ CSimAutoText::CSimAutoText(int x, int y, const char* szText, bool bWrap, bool bT
 CSimAutoText::~CSimAutoText() = default;
 
 void CSimAutoText::Clear() {
-    // NOTE: clear() keeps the capacity: multi-line statics lay their text out again every frame.
     m_vecRuns.clear();
     m_vecLines.clear();
     m_sizeText = SIZE{0, 0};
+    m_bLaidOut = false;
 }
 
 int CSimAutoText::SetText(const char* szText, bool bWrap, bool bTags) {
     if (!szText) return 0;
+    const SLayoutInputs inputs = CurrentInputs(bWrap, bTags);
+    // NOTE: the layout is a function of the text and these inputs alone, so an unchanged pair keeps it; the
+    // text is compared by content because callers pass the same buffer with new contents.
+    if (m_bLaidOut && inputs == m_laidOutInputs && m_strLaidOut == szText) return 1;
     if (NeedsLineBreakPreparation(szText))
-        Layout(PrepareLineBreaks(szText), bWrap, bTags);
+        Layout(PrepareLineBreaks(szText), inputs);
     else
-        Layout(szText, bWrap, bTags);
+        Layout(szText, inputs);
+    m_strLaidOut = szText;
+    m_laidOutInputs = inputs;
+    m_bLaidOut = true;
     return 1;
+}
+
+CSimAutoText::SLayoutInputs CSimAutoText::CurrentInputs(bool bWrap, bool bTags) const {
+    const char* szLanguage = RoleDataQueryEx()->GetLanguageName();
+    const bool bEnglish = szLanguage && std::strcmp(szLanguage, ENGLISH_LANGUAGE) == 0;
+    return SLayoutInputs{bWrap,       bTags,          bEnglish,       m_nWidth, m_dwColor,
+                         m_nFontSize, m_nCharSpacing, m_nLineSpacing, m_nStyle, m_nStrResMode};
 }
 
 void CSimAutoText::SetWidth(int nWidth) {
@@ -225,20 +248,21 @@ int CSimAutoText::GetLineWidth(int nLine) const {
 
 // ---- layout --------------------------------------------------------------------------------------
 
-void CSimAutoText::Layout(std::string_view text, bool bWrap, bool bTags) {
+void CSimAutoText::Layout(std::string_view text, const SLayoutInputs& in) {
     // NOTE: like Clear, except that the old runs are overwritten in place rather than freed: their texts keep
-    // their buffers, which matters when a static lays the same text out every frame.
+    // their buffers for the next text.
     m_vecLines.clear();
     m_sizeText = SIZE{0, 0};
     std::size_t nRuns = 0; // runs of this layout; elements past them are left from the last one
-    const SAttributes defaults{m_dwColor, m_nFontSize, m_nStyle};
-    const SAttributes plain{m_dwColor, m_nFontSize, STYLE_PLAIN};
+    const SAttributes defaults{in.dwColor, in.nFontSize, in.nStyle};
+    const SAttributes plain{in.dwColor, in.nFontSize, STYLE_PLAIN};
     SAttributes attr = defaults;
-    const char* szLanguage = RoleDataQueryEx()->GetLanguageName();
-    const bool bEnglish = szLanguage && std::strcmp(szLanguage, ENGLISH_LANGUAGE) == 0;
+    const bool bWrap = in.bWrap;
+    const bool bTags = in.bTags;
+    const bool bEnglish = in.bEnglish;
     const std::size_t n = text.size();
-    const int nWidth = m_nWidth;
-    const bool bNewlineBreaks = m_nStrResMode == 0;
+    const int nWidth = in.nWidth;
+    const bool bNewlineBreaks = in.nStrResMode == 0;
 
     long long nLineMax = attr.nFontSize; // largest font on the line
     long long x = 0;                     // where the next character starts, for the line-end test
@@ -250,11 +274,12 @@ void CSimAutoText::Layout(std::string_view text, bool bWrap, bool bTags) {
     std::size_t nLineFirstRun = 0;
     bool bRunOpen = false;
     std::size_t nNextClose = 0; // the next ">" at or after a tag's name; n when there is none
+    std::size_t nSpanEnd = 0;   // the next "<", newline or high byte at or after a plain span's start
 
     long long nHalfWidth = 0, nFullWidth = 0;
     auto setFont = [&](int nFont) {
-        nHalfWidth = nFont / 2 + static_cast<long long>(m_nCharSpacing);
-        nFullWidth = nFont + static_cast<long long>(m_nCharSpacing);
+        nHalfWidth = nFont / 2 + static_cast<long long>(in.nCharSpacing);
+        nFullWidth = nFont + static_cast<long long>(in.nCharSpacing);
     };
     setFont(attr.nFontSize);
 
@@ -277,7 +302,7 @@ void CSimAutoText::Layout(std::string_view text, bool bWrap, bool bTags) {
         SAutoTextRun& run = m_vecRuns[nRuns - 1];
         run.strText.assign(text.data() + nSegStart, std::min(nEnd - nSegStart, MAX_RUN_TEXT));
         bRunOpen = false;
-        return (run.nFontSize / 2 + static_cast<long long>(m_nCharSpacing)) *
+        return (run.nFontSize / 2 + static_cast<long long>(in.nCharSpacing)) *
                static_cast<long long>(run.strText.size());
     };
     // NOTE: a run's offset is the line's largest font minus its own font once the line is complete; setting
@@ -288,7 +313,7 @@ void CSimAutoText::Layout(std::string_view text, bool bWrap, bool bTags) {
     };
     auto addLine = [&](long long nLineTotal) {
         settleOffsets();
-        const SAutoTextLine line{0, ToInt(y), ToInt(nLineTotal), ToInt(nLineMax + m_nLineSpacing)};
+        const SAutoTextLine line{0, ToInt(y), ToInt(nLineTotal), ToInt(nLineMax + in.nLineSpacing)};
         m_vecLines.push_back(line);
         m_sizeText.cx = std::max(m_sizeText.cx, static_cast<LONG>(line.nWidth));
         m_sizeText.cy = ToInt(static_cast<long long>(m_sizeText.cy) + line.nHeight);
@@ -325,7 +350,10 @@ void CSimAutoText::Layout(std::string_view text, bool bWrap, bool bTags) {
         }
         if (nHalfWidth > 0 && c < 0x80 && c != '<' && c != '\n') {
             // Plain characters that fit (the line's first always does) are measured together.
-            const std::size_t nSpan = FindFirst<true, '<', '\n'>(text, i) - i;
+            // NOTE: the end is kept until the scan passes it: searching again from every line start would
+            // make a long text without stops quadratic.
+            if (nSpanEnd <= i) nSpanEnd = FindFirst<true, '<', '\n'>(text, i);
+            const std::size_t nSpan = nSpanEnd - i;
             const long long nRoom = nWidth - x;
             std::size_t nFit = !bWrap               ? nSpan
                                : nRoom < nHalfWidth ? 0
@@ -371,7 +399,7 @@ void CSimAutoText::Layout(std::string_view text, bool bWrap, bool bTags) {
         const std::size_t nNext = text[b] == '\n' ? b + 1 : b;
         const long long nRunWidth = closeRun(b);
         addLine(nLineWidth + nRunWidth);
-        y += m_nLineSpacing + nLineMax;
+        y += in.nLineSpacing + nLineMax;
         ++nLine;
         x = 0;
         nLineWidth = 0;
@@ -417,8 +445,21 @@ void CSimAutoText::Show() {
     const bool bEnglishOnly = pRoleData->IsEnglishOnly();
     const char* szFont = pRoleData->MapFontName(CMyBitmap::GetDefaultFontName());
     const bool bBlinkInverted = TimeGet() % BLINK_PERIOD_MS >= BLINK_PERIOD_MS / 2;
+    const RECT clip = CMyBitmap::GetClipRect();
     for (const SAutoTextRun& run : m_vecRuns)
-        if (run.nLine >= 0 && run.nLine < GetLineCount()) DrawRun(run, szFont, bEnglishOnly, bBlinkInverted);
+        if (run.nLine >= 0 && run.nLine < GetLineCount() && MayReachClip(run, clip))
+            DrawRun(run, szFont, bEnglishOnly, bBlinkInverted);
+}
+
+bool CSimAutoText::MayReachClip(const SAutoTextRun& run, const RECT& clip) const {
+    // NOTE: the host's string-resource renderer may break lines on its own, so only plain runs, which hold
+    // no newline, are judged. The reach is generous on both sides (glyphs above the top, the underline below,
+    // a graphics library that draws tiny fonts larger): it only has to leave out lines far off the screen.
+    if (m_nStrResMode != 0) return true;
+    const SAutoTextLine& line = m_vecLines[static_cast<std::size_t>(run.nLine)];
+    const long long nTop = static_cast<long long>(m_ptPos.y) + line.nY + run.nOffsetY;
+    const long long nReach = 2LL * std::max(run.nFontSize, MIN_GLYPH_REACH) + UNDERLINE_GAP;
+    return nTop + nReach > clip.top && nTop - nReach < clip.bottom;
 }
 
 void CSimAutoText::DrawRun(const SAutoTextRun& run, const char* szFont, bool bEnglishOnly,

@@ -52,11 +52,13 @@ public:
     CSimAutoText(int x, int y, const char* szText, bool bWrap, bool bTags);
     virtual ~CSimAutoText();
 
-    /// Lays the text out (newline marks prepared first); 0 without text.
+    /// Lays the text out (newline marks prepared first); 0 without text. The same text with the same settings
+    /// keeps the stored layout, so that a caller may hand its text over every frame.
     int SetText(const char* szText, bool bWrap, bool bTags);
     /// Frees all runs and lines; the text size becomes 0 x 0.
     void Clear();
-    /// Draws the runs at the position; ShowAt moves the position first.
+    /// Draws the runs at the position (runs wholly above or below the clip rectangle are left out); ShowAt
+    /// moves the position first.
     void Show();
     void ShowAt(int x, int y);
 
@@ -84,8 +86,26 @@ public:
     const std::vector<SAutoTextLine>& GetLines() const { return m_vecLines; }
 
 private:
-    void Layout(std::string_view text, bool bWrap, bool bTags);
+    /// Everything besides the text that the layout depends on (the alignment is applied on its own).
+    struct SLayoutInputs {
+        bool bWrap = false;
+        bool bTags = false;
+        bool bEnglish = false;
+        int nWidth = 0;
+        DWORD dwColor = 0;
+        int nFontSize = 0;
+        int nCharSpacing = 0;
+        int nLineSpacing = 0;
+        int nStyle = 0;
+        std::uint32_t nStrResMode = 0;
+        bool operator==(const SLayoutInputs&) const = default;
+    };
+
+    SLayoutInputs CurrentInputs(bool bWrap, bool bTags) const;
+    void Layout(std::string_view text, const SLayoutInputs& in);
     void Align();
+    /// False when no pixel of the run can fall inside the clip rectangle (it lies wholly above or below).
+    bool MayReachClip(const SAutoTextRun& run, const RECT& clip) const;
     void DrawRun(const SAutoTextRun& run, const char* szFont, bool bEnglishOnly, bool bBlinkInverted) const;
 
     POINT m_ptPos{0, 0};
@@ -100,4 +120,8 @@ private:
     int m_nAlign = ALIGN_LEFT;
     SIZE m_sizeText{0, 0};
     std::uint32_t m_nStrResMode = 0;
+    // The text and inputs of the stored layout; m_bLaidOut is false after Clear and before the first layout.
+    bool m_bLaidOut = false;
+    std::string m_strLaidOut;
+    SLayoutInputs m_laidOutInputs;
 };

@@ -1,4 +1,4 @@
-// A static text whose multi-line texts are laid out by the auto text, with tags, every frame.
+// A static text whose multi-line texts are laid out by the auto text, with tags, again only when they change.
 #pragma once
 
 #include "controls/SimAutoText.h"
@@ -12,7 +12,8 @@ public:
 
     /// Default font size when the layout gives none; remembers where the control sits in its dialog.
     void InitData() override;
-    /// One line through the toolkit, several through the auto text.
+    /// One line through the toolkit, several through the auto text, which keeps its layout until the text,
+    /// the width or a font setting changes.
     void ShowWindowText() override;
 
     const char* GetWindowTextA() const { return LuGui::CLuStatic::GetWindowTextA(); }

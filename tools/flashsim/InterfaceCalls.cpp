@@ -6,23 +6,57 @@
 #include <map>
 
 #include "BaseLib.h"
+#include "StepValues.h"
 
 namespace {
 using Args = std::vector<std::string>;
 
+// Kinds of arguments, one letter each in an operation's signature: checked before the operation runs.
+constexpr char ARG_INT = 'i';      // a signed 32-bit number
+constexpr char ARG_UNSIGNED = 'u'; // an unsigned 32-bit number (ids, messages)
+constexpr char ARG_WORD = 'w';     // a number that fills a message parameter (64 bits)
+constexpr char ARG_TRUTH = 'b';    // 1, 0, true or false
+constexpr char ARG_TEXT = 's';     // any text
+
 struct Operation {
-    std::size_t nArgs;
+    std::string_view signature; ///< one kind letter per argument
     std::function<std::optional<std::string>(IFlashSimulator&, const Args&)> run;
 };
 
+// Why the argument does not fit its kind; empty when it does.
+std::string CheckArgument(char kind, const std::string& value) {
+    std::string reason;
+    switch (kind) {
+    case ARG_INT:
+        ParseStepNumber(value, INT32_MIN, INT32_MAX, reason);
+        break;
+    case ARG_UNSIGNED:
+        ParseStepNumber(value, 0, UINT32_MAX, reason);
+        break;
+    case ARG_WORD:
+        ParseStepNumber(value, INT64_MIN, INT64_MAX, reason);
+        break;
+    case ARG_TRUTH:
+        ParseStepTruth(value, reason);
+        break;
+    case ARG_TEXT:
+    default:
+        break;
+    }
+    return reason;
+}
+
+// Readers of arguments already checked against the operation's signature.
 long long Num(const std::string& s) {
-    return std::strtoll(s.c_str(), nullptr, 0);
+    std::string ignored;
+    return ParseStepNumber(s, INT64_MIN, INT64_MAX, ignored).value_or(0);
 }
 std::int32_t I(const std::string& s) {
     return static_cast<std::int32_t>(Num(s));
 }
 bool B(const std::string& s) {
-    return s == "true" || (s != "false" && Num(s) != 0);
+    std::string ignored;
+    return ParseStepTruth(s, ignored).value_or(false);
 }
 std::string Text(bool b) {
     return b ? "1" : "0";
@@ -38,31 +72,31 @@ std::string Text(const char* s) {
 void IntPair(std::map<std::string, Operation>& ops, const char* set,
              void (IFlashSimulator::*setter)(std::int32_t), const char* get,
              std::int32_t (IFlashSimulator::*getter)()) {
-    ops[set] = {1, [setter](IFlashSimulator& s, const Args& a) {
+    ops[set] = {"i", [setter](IFlashSimulator& s, const Args& a) {
                     (s.*setter)(I(a[0]));
                     return std::optional<std::string>();
                 }};
-    ops[get] = {0, [getter](IFlashSimulator& s, const Args&) {
+    ops[get] = {"", [getter](IFlashSimulator& s, const Args&) {
                     return std::optional(Text(static_cast<long long>((s.*getter)())));
                 }};
 }
 
 void BoolSetter(std::map<std::string, Operation>& ops, const char* name,
                 void (IFlashSimulator::*setter)(bool)) {
-    ops[name] = {1, [setter](IFlashSimulator& s, const Args& a) {
+    ops[name] = {"b", [setter](IFlashSimulator& s, const Args& a) {
                      (s.*setter)(B(a[0]));
                      return std::optional<std::string>();
                  }};
 }
 
 void BoolGetter(std::map<std::string, Operation>& ops, const char* name, bool (IFlashSimulator::*getter)()) {
-    ops[name] = {0, [getter](IFlashSimulator& s, const Args&) {
+    ops[name] = {"", [getter](IFlashSimulator& s, const Args&) {
                      return std::optional(Text(static_cast<long long>((s.*getter)())));
                  }};
 }
 
 void Action(std::map<std::string, Operation>& ops, const char* name, void (IFlashSimulator::*action)()) {
-    ops[name] = {0, [action](IFlashSimulator& s, const Args&) {
+    ops[name] = {"", [action](IFlashSimulator& s, const Args&) {
                      (s.*action)();
                      return std::optional<std::string>();
                  }};
@@ -71,24 +105,24 @@ void Action(std::map<std::string, Operation>& ops, const char* name, void (IFlas
 std::map<std::string, Operation> BuildTable() {
     std::map<std::string, Operation> ops;
     using R = std::optional<std::string>;
-    ops["SetVariable"] = {2, [](IFlashSimulator& s, const Args& a) {
+    ops["SetVariable"] = {"ss", [](IFlashSimulator& s, const Args& a) {
                               s.SetVariable(a[0].c_str(), a[1].c_str());
                               return R();
                           }};
     ops["GetVariable"] = {
-        1, [](IFlashSimulator& s, const Args& a) { return R(Text(s.GetVariable(a[0].c_str()))); }};
-    ops["ShowMessage"] = {1, [](IFlashSimulator& s, const Args& a) {
+        "s", [](IFlashSimulator& s, const Args& a) { return R(Text(s.GetVariable(a[0].c_str()))); }};
+    ops["ShowMessage"] = {"u", [](IFlashSimulator& s, const Args& a) {
                               s.ShowMessage(static_cast<std::uint32_t>(Num(a[0])));
                               return R();
                           }};
     Action(ops, "Process", &IFlashSimulator::Process);
     Action(ops, "Show", &IFlashSimulator::Show);
-    ops["WindowProc"] = {3, [](IFlashSimulator& s, const Args& a) {
+    ops["WindowProc"] = {"uww", [](IFlashSimulator& s, const Args& a) {
                              return R(Text(static_cast<long long>(s.WindowProc(
                                  nullptr, static_cast<UINT>(Num(a[0])), static_cast<WPARAM>(Num(a[1])),
                                  static_cast<LPARAM>(Num(a[2]))))));
                          }};
-    ops["PreTranslateMessage"] = {3, [](IFlashSimulator& s, const Args& a) {
+    ops["PreTranslateMessage"] = {"uww", [](IFlashSimulator& s, const Args& a) {
                                       MSG msg{nullptr,
                                               static_cast<UINT>(Num(a[0])),
                                               static_cast<WPARAM>(Num(a[1])),
@@ -98,18 +132,18 @@ std::map<std::string, Operation> BuildTable() {
                                       return R(Text(static_cast<long long>(s.PreTranslateMessage(&msg))));
                                   }};
     BoolGetter(ops, "IsWebRegisterVisible", &IFlashSimulator::IsWebRegisterVisible);
-    ops["SetSceneType"] = {1, [](IFlashSimulator& s, const Args& a) {
+    ops["SetSceneType"] = {"i", [](IFlashSimulator& s, const Args& a) {
                                s.SetSceneType(I(a[0]));
                                return R();
                            }};
-    ops["GetStr"] = {1, [](IFlashSimulator& s, const Args& a) {
+    ops["GetStr"] = {"u", [](IFlashSimulator& s, const Args& a) {
                          return R(Text(s.GetStr(static_cast<std::uint32_t>(Num(a[0])))));
                      }};
     ops["GetStrInt"] = {
-        1, [](IFlashSimulator& s, const Args& a) {
+        "u", [](IFlashSimulator& s, const Args& a) {
             return R(Text(static_cast<long long>(s.GetStrInt(static_cast<std::uint32_t>(Num(a[0]))))));
         }};
-    ops["SetCreateRoleParam"] = {8, [](IFlashSimulator& s, const Args& a) {
+    ops["SetCreateRoleParam"] = {"iiiiibii", [](IFlashSimulator& s, const Args& a) {
                                      s.SetCreateRoleParam(I(a[0]), I(a[1]), I(a[2]), I(a[3]), I(a[4]),
                                                           B(a[5]), I(a[6]), I(a[7]));
                                      return R();
@@ -120,7 +154,7 @@ std::map<std::string, Operation> BuildTable() {
     BoolGetter(ops, "IsPlatformModeA", &IFlashSimulator::IsPlatformModeA);
     BoolGetter(ops, "IsNameChecked", &IFlashSimulator::IsNameChecked);
     BoolGetter(ops, "IsRoleReady", &IFlashSimulator::IsRoleReady);
-    ops["SetNameCheck"] = {3, [](IFlashSimulator& s, const Args& a) {
+    ops["SetNameCheck"] = {"bbb", [](IFlashSimulator& s, const Args& a) {
                                s.SetNameCheck(B(a[0]), B(a[1]), B(a[2]));
                                return R();
                            }};
@@ -137,15 +171,15 @@ std::map<std::string, Operation> BuildTable() {
     IntPair(ops, "SetPlayerListArg", &IFlashSimulator::SetPlayerListArg, "GetPlayerListArg",
             &IFlashSimulator::GetPlayerListArg);
     ops["SetNameSuggest"] = {
-        1, [](IFlashSimulator& s, const Args& a) { return R(Text(s.SetNameSuggest(I(a[0])))); }};
+        "i", [](IFlashSimulator& s, const Args& a) { return R(Text(s.SetNameSuggest(I(a[0])))); }};
     BoolGetter(ops, "GetNameSuggest", &IFlashSimulator::GetNameSuggest);
     Action(ops, "FocusAccountField", &IFlashSimulator::FocusAccountField);
-    ops["SetRandomName"] = {1, [](IFlashSimulator& s, const Args& a) {
+    ops["SetRandomName"] = {"s", [](IFlashSimulator& s, const Args& a) {
                                 s.SetRandomName(a[0].c_str(), static_cast<std::int32_t>(a[0].size()));
                                 return R();
                             }};
     BoolGetter(ops, "IsNameUnchanged", &IFlashSimulator::IsNameUnchanged);
-    ops["StartPlayerListThread"] = {0, [](IFlashSimulator& s, const Args&) {
+    ops["StartPlayerListThread"] = {"", [](IFlashSimulator& s, const Args&) {
                                         // The host waits for the worker so that the transcript stays in
                                         // order.
                                         HANDLE h = s.StartPlayerListThread();
@@ -154,30 +188,30 @@ std::map<std::string, Operation> BuildTable() {
                                         CloseHandle(h);
                                         return R("handle");
                                     }};
-    ops["GetSelection"] = {0, [](IFlashSimulator& s, const Args&) {
+    ops["GetSelection"] = {"", [](IFlashSimulator& s, const Args&) {
                                std::int32_t first = 0, second = 0;
                                const bool set = s.GetSelection(&first, &second);
                                return R(Text(set) + " " + Text(static_cast<long long>(first)) + " " +
                                         Text(static_cast<long long>(second)));
                            }};
-    ops["SetSelection"] = {3, [](IFlashSimulator& s, const Args& a) {
+    ops["SetSelection"] = {"bii", [](IFlashSimulator& s, const Args& a) {
                                s.SetSelection(B(a[0]), I(a[1]), I(a[2]));
                                return R();
                            }};
     Action(ops, "ShowSwitchLanguage", &IFlashSimulator::ShowSwitchLanguage);
     Action(ops, "ReloadStrings", &IFlashSimulator::ReloadStrings);
     Action(ops, "RegisterRangedStrings", &IFlashSimulator::RegisterRangedStrings);
-    ops["ManagerCall"] = {3, [](IFlashSimulator& s, const Args& a) {
+    ops["ManagerCall"] = {"uww", [](IFlashSimulator& s, const Args& a) {
                               s.ManagerCall(static_cast<UINT>(Num(a[0])), static_cast<WPARAM>(Num(a[1])),
                                             static_cast<LPARAM>(Num(a[2])));
                               return R();
                           }};
     Action(ops, "RegisterRole", &IFlashSimulator::RegisterRole);
-    ops["SetCallBack"] = {1, [](IFlashSimulator& s, const Args&) {
+    ops["SetCallBack"] = {"s", [](IFlashSimulator& s, const Args&) {
                               s.SetCallBack(nullptr);
                               return R();
                           }};
-    ops["SetCallBackEx"] = {1, [](IFlashSimulator& s, const Args&) {
+    ops["SetCallBackEx"] = {"s", [](IFlashSimulator& s, const Args&) {
                                 s.SetCallBackEx(nullptr);
                                 return R();
                             }};
@@ -193,9 +227,17 @@ CallOutcome CallInterface(IFlashSimulator& sim, const std::string& op, const std
         outcome.bKnown = false;
         return outcome;
     }
-    if (args.size() != it->second.nArgs) {
-        outcome.error = op + " takes " + std::to_string(it->second.nArgs) + " argument(s)";
+    const std::string_view signature = it->second.signature;
+    if (args.size() != signature.size()) {
+        outcome.error = op + " takes " + std::to_string(signature.size()) + " argument(s)";
         return outcome;
+    }
+    for (std::size_t i = 0; i < args.size(); ++i) {
+        const std::string reason = CheckArgument(signature[i], args[i]);
+        if (!reason.empty()) {
+            outcome.error = op + " argument " + std::to_string(i + 1) + ": " + reason;
+            return outcome;
+        }
     }
     outcome.result = it->second.run(sim, args);
     return outcome;

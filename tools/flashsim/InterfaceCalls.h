@@ -13,5 +13,6 @@ struct CallOutcome {
     std::optional<std::string> result; ///< the result as text, when the operation returns one
 };
 
-/// Runs the named operation with scenario arguments (numbers in decimal, truth values as 1/0 or true/false).
+/// Runs the named operation with scenario arguments (numbers in decimal or as 0x and hexadecimal digits, in
+/// the range of the parameter; truth values as 1/0 or true/false); an argument that does not fit is an error.
 CallOutcome CallInterface(IFlashSimulator& sim, const std::string& op, const std::vector<std::string>& args);

@@ -1,4 +1,10 @@
 // Executes scenario steps against the system library and writes the transcript.
+//
+// Index:
+//   helpers          callbacks and log lines as transcript lines, ranges of step numbers
+//   running          construction, the log sink, Run, errors
+//   steps            one function per step
+//   window messages  mouse, typed characters, keys and the control descriptions of "show"
 #include "ScenarioRunner.h"
 
 #include <cstdio>
@@ -7,9 +13,12 @@
 
 #include "Input.h"
 #include "InterfaceCalls.h"
+#include "StepValues.h"
 #include "hostlibs/HostCanvas.h"
 #include "hostlibs/HostEnv.h"
 #include "hostlibs/HostGui.h"
+
+// ---- helpers ---------------------------------------------------------------------------------------
 
 namespace {
 Transcript* g_pTranscript = nullptr;
@@ -39,13 +48,15 @@ std::string FormatLogLine(const host::LogRecord& record) {
     return line;
 }
 
-bool ParseInt(const std::string& text, long long& value) {
-    if (text.empty()) return false;
-    char* end = nullptr;
-    value = std::strtoll(text.c_str(), &end, 10);
-    return end && *end == '\0';
-}
+// Ranges of step numbers: what the interface and the window messages can carry.
+constexpr long long INT32_LOW = INT32_MIN, INT32_HIGH = INT32_MAX;
+constexpr long long UINT32_HIGH = UINT32_MAX;
+constexpr long long COORD_LOW = INT16_MIN, COORD_HIGH = INT16_MAX; // a mouse message packs 16 bits per side
+constexpr long long MAX_FRAMES_PER_STEP = 1000000;
+constexpr long long MAX_VIRTUAL_KEY = 255;
 } // namespace
+
+// ---- running ---------------------------------------------------------------------------------------
 
 ScenarioRunner::ScenarioRunner(const RunOptions& options, Transcript& transcript)
     : m_options(options), m_transcript(transcript) {
@@ -63,7 +74,9 @@ ScenarioRunner::~ScenarioRunner() {
 
 void ScenarioRunner::InstallLogSink() {
     host::SetLogSink([this](const host::LogRecord& record) {
-        if (m_bLogOn) m_transcript.Line(FormatLogLine(record));
+        if (m_eLog == ELogMode::Off) return;
+        m_transcript.Line(FormatLogLine(record),
+                          m_eLog == ELogMode::Strict ? ELineKind::RequiredLog : ELineKind::Log);
     });
 }
 
@@ -78,7 +91,17 @@ bool ScenarioRunner::Run(const std::vector<ScenarioStep>& steps) {
 
 void ScenarioRunner::Fail(const ScenarioStep& step, const std::string& why) {
     m_transcript.Line("! error: line " + std::to_string(step.nLine) + ": " + why);
+    // The transcript of a check is not shown when it matches, so the error goes to standard error as well.
+    std::fprintf(stderr, "flashsim: %s:%d: %s\n", m_options.scenarioPath.c_str(), step.nLine, why.c_str());
     m_bFailed = true;
+}
+
+std::optional<long long> ScenarioRunner::Number(const ScenarioStep& step, std::size_t nWord, long long nMin,
+                                                long long nMax, const char* szUsage) {
+    std::string reason;
+    const auto value = ParseStepNumber(step.words[nWord], nMin, nMax, reason);
+    if (!value) Fail(step, std::string(szUsage) + ": " + reason);
+    return value;
 }
 
 bool ScenarioRunner::RequireSimulator(const ScenarioStep& step) {
@@ -114,6 +137,8 @@ void ScenarioRunner::Execute(const ScenarioStep& step) {
     Fail(step, "unknown step \"" + EscapeText(name) + "\"");
 }
 
+// ---- steps -----------------------------------------------------------------------------------------
+
 void ScenarioRunner::StepDir(const ScenarioStep& step) {
     if (step.words.size() != 2) return Fail(step, "dir takes a path");
     namespace fs = std::filesystem;
@@ -122,13 +147,20 @@ void ScenarioRunner::StepDir(const ScenarioStep& step) {
 }
 
 void ScenarioRunner::StepCreate(const ScenarioStep& step) {
+    constexpr const char* USAGE = "create takes [LANG] [noregister]";
     long long language = 0;
     bool bRegister = true;
+    if (step.words.size() > 3) return Fail(step, USAGE);
     for (std::size_t i = 1; i < step.words.size(); ++i) {
-        if (step.words[i] == "noregister")
+        if (step.words[i] == "noregister") {
             bRegister = false;
-        else if (!ParseInt(step.words[i], language))
-            return Fail(step, "create takes [LANG] [noregister]");
+        } else if (i == 1) {
+            const auto value = Number(step, i, INT32_LOW, INT32_HIGH, USAGE);
+            if (!value) return;
+            language = *value;
+        } else {
+            return Fail(step, USAGE);
+        }
     }
     if (!RequireSimulator(step)) return;
     m_pSim->Create(0, 0, static_cast<std::int32_t>(language), bRegister);
@@ -143,15 +175,19 @@ void ScenarioRunner::StepCallback(const ScenarioStep& step) {
 }
 
 void ScenarioRunner::StepScene(const ScenarioStep& step) {
-    if (!RequireSimulator(step)) return;
+    constexpr const char* USAGE = "scene takes login, create or a number";
+    if (step.words.size() != 2) return Fail(step, USAGE);
     long long scene = 0;
-    if (step.words.size() != 2) return Fail(step, "scene takes login, create or a number");
-    if (step.words[1] == "login")
+    if (step.words[1] == "login") {
         scene = EST_LOGIN;
-    else if (step.words[1] == "create")
+    } else if (step.words[1] == "create") {
         scene = EST_ROLE_CREATE;
-    else if (!ParseInt(step.words[1], scene))
-        return Fail(step, "scene takes login, create or a number");
+    } else {
+        const auto value = Number(step, 1, INT32_LOW, INT32_HIGH, USAGE);
+        if (!value) return;
+        scene = *value;
+    }
+    if (!RequireSimulator(step)) return;
     m_pSim->SetSceneType(static_cast<std::int32_t>(scene));
 }
 
@@ -183,11 +219,21 @@ void ScenarioRunner::StepCall(const ScenarioStep& step) {
 }
 
 void ScenarioRunner::StepFrame(const ScenarioStep& step) {
-    if (!RequireSimulator(step)) return;
+    constexpr const char* USAGE = "frame takes [N] [MS]";
+    if (step.words.size() > 3) return Fail(step, USAGE);
     long long count = 1;
     long long ms = 16;
-    if (step.words.size() > 1 && !ParseInt(step.words[1], count)) return Fail(step, "frame takes [N] [MS]");
-    if (step.words.size() > 2 && !ParseInt(step.words[2], ms)) return Fail(step, "frame takes [N] [MS]");
+    if (step.words.size() > 1) {
+        const auto value = Number(step, 1, 0, MAX_FRAMES_PER_STEP, USAGE);
+        if (!value) return;
+        count = *value;
+    }
+    if (step.words.size() > 2) {
+        const auto value = Number(step, 2, 0, UINT32_HIGH, USAGE);
+        if (!value) return;
+        ms = *value;
+    }
+    if (!RequireSimulator(step)) return;
     for (long long i = 0; i < count; ++i) {
         host::AdvanceClock(static_cast<DWORD>(ms));
         m_pSim->Process();
@@ -197,18 +243,18 @@ void ScenarioRunner::StepFrame(const ScenarioStep& step) {
 }
 
 void ScenarioRunner::StepClock(const ScenarioStep& step) {
-    long long ms = 0;
-    if (step.words.size() != 2 || !ParseInt(step.words[1], ms)) return Fail(step, "clock takes MS");
-    host::AdvanceClock(static_cast<DWORD>(ms));
+    constexpr const char* USAGE = "clock takes MS";
+    if (step.words.size() != 2) return Fail(step, USAGE);
+    if (const auto ms = Number(step, 1, 0, UINT32_HIGH, USAGE)) host::AdvanceClock(static_cast<DWORD>(*ms));
 }
 
 void ScenarioRunner::StepTime(const ScenarioStep& step) {
-    SLocalTime t{};
-    if (step.words.size() != 3 ||
-        std::sscanf(step.words[1].c_str(), "%4d-%2d-%2d", &t.nYear, &t.nMonth, &t.nDay) != 3 ||
-        std::sscanf(step.words[2].c_str(), "%2d:%2d", &t.nHour, &t.nMinute) != 2)
-        return Fail(step, "time takes YYYY-MM-DD HH:MM");
-    host::SetLocalTime(t);
+    constexpr const char* USAGE = "time takes YYYY-MM-DD HH:MM";
+    if (step.words.size() != 3) return Fail(step, USAGE);
+    std::string reason;
+    const auto t = ParseStepTime(step.words[1], step.words[2], reason);
+    if (!t) return Fail(step, std::string(USAGE) + ": " + reason);
+    host::SetLocalTime(*t);
 }
 
 void ScenarioRunner::StepHost(const ScenarioStep& step) {
@@ -216,22 +262,28 @@ void ScenarioRunner::StepHost(const ScenarioStep& step) {
     const std::string key = UnescapeValue(step.words[1]);
     const std::string value = step.words.size() > 2 ? UnescapeValue(step.RestAfter(2)) : std::string();
     if (key == "screen") {
-        int w = 0, h = 0;
-        if (std::sscanf(value.c_str(), "%dx%d", &w, &h) != 2) return Fail(step, "host screen takes WxH");
-        return host::SetScreenSize(w, h);
+        std::string reason;
+        const auto size = ParseStepScreenSize(value, reason);
+        if (!size) return Fail(step, "host screen takes WxH: " + reason);
+        return host::SetScreenSize(size->cx, size->cy);
     }
     host::SetData(key, value);
 }
 
 void ScenarioRunner::StepLog(const ScenarioStep& step) {
-    if (step.words.size() == 2 && (step.words[1] == "on" || step.words[1] == "off")) {
-        m_bLogOn = step.words[1] == "on";
-        return;
-    }
-    Fail(step, "log takes on or off");
+    static const std::pair<const char*, ELogMode> MODES[] = {
+        {"on", ELogMode::On}, {"off", ELogMode::Off}, {"strict", ELogMode::Strict}};
+    if (step.words.size() == 2)
+        for (const auto& [szName, eMode] : MODES)
+            if (step.words[1] == szName) {
+                m_eLog = eMode;
+                return;
+            }
+    Fail(step, "log takes on, strict or off");
 }
 
-void ScenarioRunner::StepDestroy(const ScenarioStep&) {
+void ScenarioRunner::StepDestroy(const ScenarioStep& step) {
+    if (step.words.size() != 1) return Fail(step, "destroy takes nothing");
     m_library.Destroy();
     m_pSim = nullptr;
 }
@@ -268,9 +320,10 @@ bool ParseKey(const std::string& word, int& vk) {
             vk = code;
             return true;
         }
-    long long n = 0;
-    if (!ParseInt(word, n) || n < 0 || n > 255) return false;
-    vk = static_cast<int>(n);
+    std::string ignored;
+    const auto n = ParseStepNumber(word, 0, MAX_VIRTUAL_KEY, ignored);
+    if (!n) return false;
+    vk = static_cast<int>(*n);
     return true;
 }
 
@@ -322,12 +375,13 @@ void ScenarioRunner::SendMouse(UINT uMsg, int x, int y) {
 }
 
 void ScenarioRunner::StepClick(const ScenarioStep& step) {
-    if (!RequireSimulator(step)) return;
-    long long nDialog = 0, nControl = 0;
-    if (step.words.size() != 3 || !ParseInt(step.words[1], nDialog) || !ParseInt(step.words[2], nControl))
-        return Fail(step, "click takes DIALOG CONTROL");
+    constexpr const char* USAGE = "click takes DIALOG CONTROL";
+    if (step.words.size() != 3) return Fail(step, USAGE);
+    const auto nDialog = Number(step, 1, 0, UINT32_HIGH, USAGE);
+    const auto nControl = nDialog ? Number(step, 2, 0, UINT32_HIGH, USAGE) : std::nullopt;
+    if (!nControl || !RequireSimulator(step)) return;
     host::WindowState state;
-    if (!host::DescribeControl(static_cast<UINT>(nDialog), static_cast<UINT>(nControl), state) ||
+    if (!host::DescribeControl(static_cast<UINT>(*nDialog), static_cast<UINT>(*nControl), state) ||
         !state.shown) {
         m_transcript.Line("! no such visible control");
         return;
@@ -339,17 +393,18 @@ void ScenarioRunner::StepClick(const ScenarioStep& step) {
 }
 
 void ScenarioRunner::StepMouse(const ScenarioStep& step) {
-    if (!RequireSimulator(step)) return;
-    long long x = 0, y = 0;
-    if (step.words.size() != 3 || !ParseInt(step.words[1], x) || !ParseInt(step.words[2], y))
-        return Fail(step, step.words[0] + " takes X Y");
+    const std::string usage = step.words[0] + " takes X Y";
+    if (step.words.size() != 3) return Fail(step, usage);
+    const auto x = Number(step, 1, COORD_LOW, COORD_HIGH, usage.c_str());
+    const auto y = x ? Number(step, 2, COORD_LOW, COORD_HIGH, usage.c_str()) : std::nullopt;
+    if (!y || !RequireSimulator(step)) return;
     const std::string& name = step.words[0];
     const UINT uMsg = name == "move"    ? WM_MOUSEMOVE
                       : name == "down"  ? WM_LBUTTONDOWN
                       : name == "up"    ? WM_LBUTTONUP
                       : name == "rdown" ? WM_RBUTTONDOWN
                                         : WM_RBUTTONUP;
-    SendMouse(uMsg, static_cast<int>(x), static_cast<int>(y));
+    SendMouse(uMsg, static_cast<int>(*x), static_cast<int>(*y));
 }
 
 void ScenarioRunner::StepChar(const ScenarioStep& step) {
@@ -359,10 +414,10 @@ void ScenarioRunner::StepChar(const ScenarioStep& step) {
 }
 
 void ScenarioRunner::StepKey(const ScenarioStep& step) {
-    if (!RequireSimulator(step)) return;
     int vk = 0;
     if (step.words.size() != 2 || !ParseKey(step.words[1], vk))
-        return Fail(step, "key takes VK (a number or name)");
+        return Fail(step, "key takes VK (a name or a number from 0 to 255)");
+    if (!RequireSimulator(step)) return;
     host::SetKeyDown(vk, true);
     SendToWindow(WM_KEYDOWN, static_cast<WPARAM>(vk), 1, true);
     if (const int ch = TypedCharOfKey(vk)) SendToWindow(WM_CHAR, static_cast<WPARAM>(ch), 1, true);
@@ -371,16 +426,18 @@ void ScenarioRunner::StepKey(const ScenarioStep& step) {
 }
 
 void ScenarioRunner::StepShow(const ScenarioStep& step) {
-    if (!RequireSimulator(step)) return;
-    long long nDialog = 0, nControl = 0;
-    if (step.words.size() < 2 || step.words.size() > 3 || !ParseInt(step.words[1], nDialog) ||
-        (step.words.size() == 3 && !ParseInt(step.words[2], nControl)))
-        return Fail(step, "show takes DIALOG [CONTROL]");
-    host::WindowState state;
+    constexpr const char* USAGE = "show takes DIALOG [CONTROL]";
+    if (step.words.size() < 2 || step.words.size() > 3) return Fail(step, USAGE);
     const bool bControl = step.words.size() == 3;
+    const auto nDialog = Number(step, 1, 0, UINT32_HIGH, USAGE);
+    if (!nDialog) return;
+    std::optional<long long> nControl = 0;
+    if (bControl && !(nControl = Number(step, 2, 0, UINT32_HIGH, USAGE))) return;
+    if (!RequireSimulator(step)) return;
+    host::WindowState state;
     const bool bFound =
-        bControl ? host::DescribeControl(static_cast<UINT>(nDialog), static_cast<UINT>(nControl), state)
-                 : host::DescribeDialog(static_cast<UINT>(nDialog), state);
+        bControl ? host::DescribeControl(static_cast<UINT>(*nDialog), static_cast<UINT>(*nControl), state)
+                 : host::DescribeDialog(static_cast<UINT>(*nDialog), state);
     if (!bFound) {
         m_transcript.Line(bControl ? "! no such control" : "! no such dialog");
         return;

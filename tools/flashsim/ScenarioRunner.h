@@ -1,6 +1,7 @@
 // Executes scenario steps against the system library and writes the transcript.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -27,7 +28,11 @@ public:
 
 private:
     void Execute(const ScenarioStep& step);
+    /// Reports a malformed step in the transcript and on standard error, naming its line; the run fails.
     void Fail(const ScenarioStep& step, const std::string& why);
+    /// Word nWord of the step as a number in [nMin, nMax]; otherwise fails the step with the usage and why.
+    std::optional<long long> Number(const ScenarioStep& step, std::size_t nWord, long long nMin,
+                                    long long nMax, const char* szUsage);
     bool RequireSimulator(const ScenarioStep& step);
 
     void StepDir(const ScenarioStep& step);
@@ -61,6 +66,7 @@ private:
     Transcript& m_transcript;
     SystemLibrary m_library;
     IFlashSimulator* m_pSim = nullptr;
-    bool m_bLogOn = false;
+    enum class ELogMode { Off, On, Strict };
+    ELogMode m_eLog = ELogMode::Off;
     bool m_bFailed = false;
 };

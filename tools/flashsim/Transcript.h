@@ -3,19 +3,34 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 /// Escapes a text for the transcript: backslash as "\\", newline as "\n", quotes and bytes outside printable
 /// ASCII as "\xHH".
 std::string EscapeText(std::string_view text);
 
+/// What a transcript line is, for the comparison with an expected transcript.
+enum class ELineKind {
+    Event,       ///< everything a step prints; always compared
+    Log,         ///< a log line after "log on": may be missing from the expected transcript
+    RequiredLog, ///< a log line after "log strict": compared like an event
+};
+
 /// Collects the transcript lines (and echoes them to standard output when asked).
 class Transcript {
 public:
+    struct SLine {
+        ELineKind eKind;
+        std::string text;
+    };
+
     explicit Transcript(bool bEcho) : m_bEcho(bEcho) {}
-    void Line(std::string_view line);
-    const std::string& Text() const { return m_text; }
+    void Line(std::string_view line, ELineKind eKind = ELineKind::Event);
+    const std::vector<SLine>& Lines() const { return m_lines; }
+    /// All lines, each ending in a newline.
+    std::string Text() const;
 
 private:
     bool m_bEcho;
-    std::string m_text;
+    std::vector<SLine> m_lines;
 };

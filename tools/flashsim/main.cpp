@@ -2,24 +2,43 @@
 // FILE.out.
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <filesystem>
 #include <fstream>
+#include <optional>
 #include <sstream>
 #include <string>
+#include <string_view>
 
+#include "HostPaths.h"
 #include "ScenarioRunner.h"
+#include "TranscriptCheck.h"
 
 namespace {
-int Usage() {
-    std::fprintf(stderr,
-                 "usage: flashsim run|check FILE [--lib PATH] [--res DIR] [--out DIR]\n"
-                 "  run    executes the scenario and prints its transcript\n"
-                 "  check  executes it and compares the transcript with FILE's .out file\n"
-                 "  --lib  the system library (default: the one built with this host; env FLASHSIM_LIBRARY)\n"
-                 "  --res  the default client directory (default: the sample one; env FLASHSIM_RES)\n"
-                 "  --out  where shot writes pictures (default: the current directory; env FLASHSIM_OUT)\n");
-    return 2;
+
+constexpr int EXIT_DIFFERENT = 1; // the run failed or its transcript differs
+constexpr int EXIT_USAGE = 2;     // the command line or the scenario file could not be used
+
+constexpr const char* USAGE =
+    "usage: flashsim run|check FILE [--lib PATH] [--res DIR] [--out DIR]\n"
+    "       flashsim --help\n"
+    "  run    executes the scenario and prints its transcript\n"
+    "  check  executes it and compares the transcript with FILE's .out file; log lines the .out file\n"
+    "         leaves out are passed over (see docs/SCENARIOS.md)\n"
+    "  --lib  the system library (default: the one built with this host, found from the executable;\n"
+    "         env FLASHSIM_LIBRARY)\n"
+    "  --res  the default client directory (default: the sample one, found from the executable;\n"
+    "         env FLASHSIM_RES)\n"
+    "  --out  where shot writes pictures (default: the current directory; env FLASHSIM_OUT)\n";
+
+struct SCommandLine {
+    bool bHelp = false;
+    std::string mode;
+    RunOptions options;
+};
+
+int UsageError(const std::string& why) {
+    std::fprintf(stderr, "flashsim: %s\n%s", why.c_str(), USAGE);
+    return EXIT_USAGE;
 }
 
 std::string EnvOr(const char* name, const std::string& fallback) {
@@ -27,64 +46,96 @@ std::string EnvOr(const char* name, const std::string& fallback) {
     return value && *value ? value : fallback;
 }
 
+// Reads the command line; an error text when it cannot be used.
+std::optional<SCommandLine> ParseCommandLine(int argc, char** argv, std::string& strError) {
+    SCommandLine cmd;
+    const std::string exeDir = ExecutableDir(argc > 0 ? argv[0] : nullptr);
+    cmd.options.libraryPath = EnvOr("FLASHSIM_LIBRARY", DefaultLibraryPath(exeDir));
+    cmd.options.resDir = EnvOr("FLASHSIM_RES", DefaultClientDir(exeDir));
+    cmd.options.outDir = EnvOr("FLASHSIM_OUT", ".");
+    std::string* positional[] = {&cmd.mode, &cmd.options.scenarioPath};
+    std::size_t nPositional = 0;
+    for (int i = 1; i < argc; ++i) {
+        const std::string_view arg = argv[i];
+        if (arg == "--help" || arg == "-h") {
+            cmd.bHelp = true;
+            return cmd;
+        }
+        std::string* target = arg == "--lib"   ? &cmd.options.libraryPath
+                              : arg == "--res" ? &cmd.options.resDir
+                              : arg == "--out" ? &cmd.options.outDir
+                                               : nullptr;
+        if (target) {
+            if (i + 1 >= argc) {
+                strError = std::string(arg) + " needs a value";
+                return std::nullopt;
+            }
+            *target = argv[++i];
+        } else if (arg.starts_with("-")) {
+            strError = "unknown option " + std::string(arg);
+            return std::nullopt;
+        } else if (nPositional < std::size(positional)) {
+            *positional[nPositional++] = arg;
+        } else {
+            strError = "unexpected argument " + std::string(arg);
+            return std::nullopt;
+        }
+    }
+    if (nPositional < std::size(positional)) {
+        strError = nPositional == 0 ? "run or check is missing" : "the scenario FILE is missing";
+        return std::nullopt;
+    }
+    if (cmd.mode != "run" && cmd.mode != "check") {
+        strError = "unknown mode " + cmd.mode + " (run or check)";
+        return std::nullopt;
+    }
+    return cmd;
+}
+
 std::string ExpectedPath(const std::string& scenario) {
     return std::filesystem::path(scenario).replace_extension(".out").string();
 }
 
-// Prints the first line where the two transcripts differ; true when they are equal.
-bool CompareTranscripts(const std::string& expected, const std::string& actual) {
-    std::istringstream e(expected), a(actual);
-    std::string le, la;
-    for (int line = 1;; ++line) {
-        const bool moreE = static_cast<bool>(std::getline(e, le));
-        const bool moreA = static_cast<bool>(std::getline(a, la));
-        if (!moreE && !moreA) return true;
-        if (moreE && moreA && le == la) continue;
-        std::printf("first difference at line %d\n  expected: %s\n  actual:   %s\n", line,
-                    moreE ? le.c_str() : "(end of transcript)", moreA ? la.c_str() : "(end of transcript)");
-        return false;
-    }
-}
-} // namespace
-
-int main(int argc, char** argv) {
-    if (argc < 3) return Usage();
-    const std::string mode = argv[1];
-    if (mode != "run" && mode != "check") return Usage();
-    RunOptions options{argv[2], EnvOr("FLASHSIM_LIBRARY", FLASHSIM_LIBRARY_PATH),
-                       EnvOr("FLASHSIM_RES", FLASHSIM_DEFAULT_RES_DIR), EnvOr("FLASHSIM_OUT", ".")};
-    for (int i = 3; i + 1 < argc; i += 2) {
-        if (std::strcmp(argv[i], "--lib") == 0)
-            options.libraryPath = argv[i + 1];
-        else if (std::strcmp(argv[i], "--res") == 0)
-            options.resDir = argv[i + 1];
-        else if (std::strcmp(argv[i], "--out") == 0)
-            options.outDir = argv[i + 1];
-        else
-            return Usage();
-    }
-    if ((argc - 3) % 2 != 0) return Usage();
-
-    std::vector<ScenarioStep> steps;
-    if (!ReadScenario(options.scenarioPath, steps)) {
-        std::fprintf(stderr, "flashsim: cannot read %s\n", options.scenarioPath.c_str());
-        return 2;
-    }
-    Transcript transcript(mode == "run");
-    bool ok = false;
-    {
-        ScenarioRunner runner(options, transcript);
-        ok = runner.Run(steps);
-    }
-    if (mode == "run") return ok ? 0 : 1;
-
-    std::ifstream in(ExpectedPath(options.scenarioPath), std::ios::binary);
+int CheckAgainstExpected(const std::string& scenarioPath, const Transcript& transcript, bool bRunOk) {
+    const std::string path = ExpectedPath(scenarioPath);
+    std::ifstream in(path, std::ios::binary);
     if (!in) {
-        std::printf("no expected transcript %s; actual:\n%s", ExpectedPath(options.scenarioPath).c_str(),
-                    transcript.Text().c_str());
-        return 1;
+        std::printf("no expected transcript %s; actual:\n%s", path.c_str(), transcript.Text().c_str());
+        return EXIT_DIFFERENT;
     }
     std::stringstream expected;
     expected << in.rdbuf();
-    return CompareTranscripts(expected.str(), transcript.Text()) && ok ? 0 : 1;
+    std::string report;
+    if (!MatchesExpectedTranscript(expected.str(), transcript, report)) {
+        std::printf("%s: %s", path.c_str(), report.c_str());
+        return EXIT_DIFFERENT;
+    }
+    return bRunOk ? EXIT_SUCCESS : EXIT_DIFFERENT;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    std::string error;
+    const std::optional<SCommandLine> cmd = ParseCommandLine(argc, argv, error);
+    if (!cmd) return UsageError(error);
+    if (cmd->bHelp) {
+        std::fputs(USAGE, stdout);
+        return EXIT_SUCCESS;
+    }
+
+    std::vector<ScenarioStep> steps;
+    if (!ReadScenario(cmd->options.scenarioPath, steps)) {
+        std::fprintf(stderr, "flashsim: cannot read %s\n", cmd->options.scenarioPath.c_str());
+        return EXIT_USAGE;
+    }
+    const bool bRun = cmd->mode == "run";
+    Transcript transcript(bRun);
+    bool bOk = false;
+    {
+        ScenarioRunner runner(cmd->options, transcript);
+        bOk = runner.Run(steps);
+    }
+    if (bRun) return bOk ? EXIT_SUCCESS : EXIT_DIFFERENT;
+    return CheckAgainstExpected(cmd->options.scenarioPath, transcript, bOk);
 }

@@ -375,4 +375,24 @@ TEST_F(ControlWrappersTest, CentredMultiLineStaticIsLaidOutCentredWithTags) {
     EXPECT_TRUE(DrawControl(label).empty());
 }
 
+// The static keeps its layout between frames; a new text, a new width or a new font colour shows at the next
+// frame.
+TEST_F(ControlWrappersTest, MultiLineStaticDrawsItsCurrentTextWidthAndColour) {
+    CSimStatic& label = m_dlg.m_static; // 100 wide, centred
+    auto texts = [&] {
+        std::string all;
+        for (const host::DrawOp& op : DrawControl(label)) all += op.text + "|";
+        return all;
+    };
+    label.SetWindowTextA("abcdefgh");
+    EXPECT_EQ(texts(), "abcdefgh|");
+    label.SetWindowTextA("abcdefgX");
+    EXPECT_EQ(texts(), "abcdefgX|");
+    label.MoveWindow(label.GetOrigin().x, label.GetOrigin().y, 35, 60, FALSE);
+    EXPECT_EQ(texts(), "abcde|fgX|");
+    EXPECT_EQ(label.GetAutoText().GetLines()[1].nX, 17 - 10);
+    label.SetFontColor(0xFF00FF00);
+    EXPECT_EQ(DrawControl(label)[0].colour, 0xFF00FF00u);
+}
+
 } // namespace

@@ -19,6 +19,7 @@
 #include "controls/SimAutoText.h"
 #include "hostlibs/HostCanvas.h"
 #include "hostlibs/HostEnv.h"
+#include "platform/Graphics.h"
 
 namespace {
 
@@ -36,6 +37,27 @@ std::vector<host::DrawOp> Draw(CSimAutoText& text, int x = 0, int y = 0) {
     host::BeginFrame();
     text.ShowAt(x, y);
     return host::GetRecordedOps();
+}
+
+std::vector<host::DrawOp> DrawClipped(CSimAutoText& text, int x, int y, const RECT& clip) {
+    host::UseCanvas(host::CanvasKind::Recording);
+    host::BeginFrame();
+    CMyBitmap::SetClipRect(&clip);
+    text.ShowAt(x, y);
+    std::vector<host::DrawOp> ops = host::GetRecordedOps();
+    CMyBitmap::SetClipRect(nullptr);
+    return ops;
+}
+
+// Whether an operation's rows (a line's one row included) meet the clip's rows.
+bool TouchesRows(const host::DrawOp& op, const RECT& clip) {
+    const int nTop = std::min(op.y, op.y + op.h);
+    const int nBottom = std::max(op.y, op.y + op.h) + (op.kind == "line" || op.h == 0 ? 1 : 0);
+    return nTop < clip.bottom && nBottom > clip.top;
+}
+
+std::string Describe(const host::DrawOp& op) {
+    return op.kind + " " + op.text + " " + std::to_string(op.x) + "," + std::to_string(op.y);
 }
 
 std::string AllRunText(const CSimAutoText& text) {
@@ -178,6 +200,86 @@ TEST(AutoText, BreaksKeepEveryByteOnce) {
     }
 }
 
+// Everything a layout depends on; a text handed over again keeps its layout only while all of it is
+// unchanged.
+struct SLayoutSettings {
+    std::string text = "ab cd</#R>e fghij\\nkl";
+    int nWidth = 50;
+    int nFont = 14;
+    DWORD dwColor = 0x123456;
+    int nCharSpacing = 0;
+    int nLineSpacing = 2;
+    int nStyle = CSimAutoText::STYLE_PLAIN;
+    unsigned nStrResMode = 0;
+    bool bWrap = true;
+    bool bTags = true;
+    const char* szLanguage = "Chinese";
+};
+
+void Apply(const SLayoutSettings& s, CSimAutoText& text) {
+    host::SetData("language", s.szLanguage);
+    text.SetFontSize(s.nFont);
+    text.SetWidth(s.nWidth);
+    text.SetColor(s.dwColor);
+    text.SetCharSpacing(s.nCharSpacing);
+    text.SetLineSpacing(s.nLineSpacing);
+    text.SetStyle(s.nStyle);
+    text.SetStrResMode(s.nStrResMode);
+    text.SetText(s.text.c_str(), s.bWrap, s.bTags);
+}
+
+std::string FreshDump(const SLayoutSettings& s) {
+    CSimAutoText text;
+    Apply(s, text);
+    return autotext::Dump(text);
+}
+
+TEST(AutoTextCache, AnyChangedInputLaysTheTextOutAgain) {
+    using Change = void (*)(SLayoutSettings&);
+    const std::pair<const char*, Change> changes[] = {
+        {"text, same length", [](SLayoutSettings& s) { s.text = "xy zw</#G>e fghij\\nkl"; }},
+        {"width", [](SLayoutSettings& s) { s.nWidth = 90; }},
+        {"font", [](SLayoutSettings& s) { s.nFont = 20; }},
+        {"colour", [](SLayoutSettings& s) { s.dwColor = 0x654321; }},
+        {"character spacing", [](SLayoutSettings& s) { s.nCharSpacing = 2; }},
+        {"line spacing", [](SLayoutSettings& s) { s.nLineSpacing = 5; }},
+        {"style", [](SLayoutSettings& s) { s.nStyle = CSimAutoText::STYLE_UNDERLINE; }},
+        {"string-resource mode", [](SLayoutSettings& s) { s.nStrResMode = 3; }},
+        {"wrap", [](SLayoutSettings& s) { s.bWrap = false; }},
+        {"tags", [](SLayoutSettings& s) { s.bTags = false; }},
+        {"language", [](SLayoutSettings& s) { s.szLanguage = "English"; }},
+    };
+    const SLayoutSettings base;
+    const std::string baseDump = FreshDump(base);
+    for (const auto& [szWhat, change] : changes) {
+        SCOPED_TRACE(szWhat);
+        SLayoutSettings changed = base;
+        change(changed);
+        const std::string expected = FreshDump(changed);
+        ASSERT_NE(expected, baseDump) << "the change must show in the layout";
+        CSimAutoText text;
+        Apply(base, text);
+        Apply(changed, text);
+        EXPECT_EQ(autotext::Dump(text), expected);
+        Apply(base, text); // and back
+        EXPECT_EQ(autotext::Dump(text), baseDump);
+    }
+    host::SetData("language", "");
+}
+
+TEST(AutoTextCache, SameTextInTheSameBufferAfterClearIsLaidOutAgain) {
+    CSimAutoText text;
+    char buffer[] = "abc";
+    text.SetText(buffer, true, true);
+    buffer[1] = 'X';
+    text.SetText(buffer, true, true);
+    EXPECT_EQ(AllRunText(text), "aXc");
+    text.Clear();
+    text.SetText(buffer, true, true);
+    EXPECT_EQ(text.GetLineCount(), 1);
+    EXPECT_EQ(AllRunText(text), "aXc");
+}
+
 TEST(AutoTextDraw, PlainRunsAreDrawnAtLinePlusRunPosition) {
     CSimAutoText text;
     text.SetAlign(CSimAutoText::ALIGN_RIGHT);
@@ -232,6 +334,28 @@ TEST(AutoTextDraw, UnderlineRunsGetALineBelowTheText) {
     EXPECT_EQ(ops[3].x, 5 + 28);
     EXPECT_EQ(ops[3].w, 3 * 7);
     EXPECT_EQ(ops[3].colour, CSimAutoText::COLOR_RED);
+}
+
+// Leaving out runs far from the clip rectangle must never lose one that draws into it: through clip windows
+// one pixel high at every height, the runs drawn are exactly those of an unclipped draw that touch the
+// window.
+TEST(AutoTextDraw, RunsLeftOutOfAClippedDrawTouchNoPixelOfIt) {
+    CSimAutoText text;
+    text.SetWidth(100);
+    for (const unsigned nMode : {0u, 5u}) {
+        text.SetStrResMode(nMode);
+        text.SetText("ab</S30>cd</u>ef\\ngh</S4>ij</S>kl\\n</S1>mnop</S>q</S90>r", true, true);
+        const std::vector<host::DrawOp> all = Draw(text, 3, 40);
+        for (int nClipTop = 0; nClipTop < 300; ++nClipTop) {
+            SCOPED_TRACE(testing::Message() << "mode " << nMode << " clip top " << nClipTop);
+            const RECT clip{0, nClipTop, 1024, nClipTop + 1};
+            std::vector<std::string> expected, drawn;
+            for (const host::DrawOp& op : all)
+                if (TouchesRows(op, clip)) expected.push_back(Describe(op));
+            for (const host::DrawOp& op : DrawClipped(text, 3, 40, clip)) drawn.push_back(Describe(op));
+            EXPECT_EQ(drawn, expected);
+        }
+    }
 }
 
 TEST(AutoTextDraw, StringResourceModeDrawsThroughTheResourceRenderer) {
