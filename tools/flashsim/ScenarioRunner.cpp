@@ -7,6 +7,7 @@
 //   window messages  mouse, typed characters, keys and the control descriptions of "show"
 #include "ScenarioRunner.h"
 
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -386,8 +387,9 @@ void ScenarioRunner::StepClick(const ScenarioStep& step) {
         m_transcript.Line("! no such visible control");
         return;
     }
-    const int x = (state.rect.left + state.rect.right) / 2;
-    const int y = (state.rect.top + state.rect.bottom) / 2;
+    // NOTE: summed in 64 bits: a host may place a window anywhere an int reaches.
+    const int x = static_cast<int>((static_cast<std::int64_t>(state.rect.left) + state.rect.right) / 2);
+    const int y = static_cast<int>((static_cast<std::int64_t>(state.rect.top) + state.rect.bottom) / 2);
     SendMouse(WM_LBUTTONDOWN, x, y);
     SendMouse(WM_LBUTTONUP, x, y);
 }
