@@ -1,8 +1,10 @@
-// Parser of animation index files (INI-like: one section per title, FrameN keys); see docs/ANIMATION.md.
+// Parser of animation index files (INI-style: one section per title, FrameN keys); see docs/ANIMATION.md.
 #include "AniIndex.h"
 
 #include <algorithm>
 #include <charconv>
+
+#include "text/IniDocument.h"
 
 namespace gfx {
 namespace {
@@ -80,31 +82,40 @@ std::optional<AniFrame> ParseBox(std::string_view rest) {
 struct ParseState {
     AniIndex index;
     AniTitle* current = nullptr;
-    bool currentIsDuplicate = false;
     int line = 0;
+    std::vector<std::pair<int, std::string>> lineWarnings;
 
-    void Warn(std::string_view what) {
-        index.warnings.push_back("line " + std::to_string(line) + ": " + std::string(what));
+    void Warn(std::string_view what) { lineWarnings.emplace_back(line, std::string(what)); }
+    /// The warnings in line order, as "line N: ...".
+    void FlushWarnings() {
+        std::stable_sort(lineWarnings.begin(), lineWarnings.end(),
+                         [](const auto& a, const auto& b) { return a.first < b.first; });
+        for (const auto& [number, what] : lineWarnings)
+            index.warnings.push_back("line " + std::to_string(number) + ": " + what);
+        lineWarnings.clear();
     }
 };
 
-void OpenSection(ParseState& state, std::string_view title) {
-    title = Trim(title);
-    state.current = nullptr;
-    state.currentIsDuplicate = false;
-    if (title.empty()) {
-        state.Warn("empty title");
-        return;
+// What the reader skipped, in the words of this format; nothing for what is not worth a warning.
+std::optional<std::string> Describe(const txt::IniIssue& issue) {
+    using Kind = txt::IniIssue::Kind;
+    switch (issue.kind) {
+    case Kind::UnclosedSection:
+        return "section without ']'";
+    case Kind::EmptySectionName:
+        return "empty title";
+    case Kind::RepeatedSection:
+        return "title '" + issue.name + "' repeated; the first one counts";
+    case Kind::MissingEquals:
+        return "line without '='";
+    case Kind::EmptyKey:
+        return "line without a key";
+    case Kind::OutsideSection:
+        return "entry outside a title";
+    case Kind::RepeatedKey:
+        return std::nullopt;
     }
-    const std::string key = LowerAscii(title);
-    auto [it, inserted] = state.index.titles.try_emplace(key);
-    if (!inserted) {
-        state.Warn("title '" + std::string(title) + "' repeated; the first one counts");
-        state.currentIsDuplicate = true;
-        return;
-    }
-    it->second.title = std::string(title);
-    state.current = &it->second;
+    return std::nullopt;
 }
 
 void SetFrame(ParseState& state, std::string_view number, std::string_view value) {
@@ -145,31 +156,6 @@ void SetEntry(ParseState& state, std::string_view key, std::string_view value) {
     } else {
         state.Warn("unknown key '" + std::string(key) + "'");
     }
-}
-
-void ParseLine(ParseState& state, std::string_view line) {
-    line = Trim(line);
-    if (line.empty() || line.front() == ';' || line.front() == '#') return;
-    if (line.front() == '[') {
-        if (line.back() != ']') {
-            state.Warn("section without ']'");
-            state.current = nullptr;
-            state.currentIsDuplicate = false;
-            return;
-        }
-        OpenSection(state, line.substr(1, line.size() - 2));
-        return;
-    }
-    const std::size_t equals = line.find('=');
-    if (equals == std::string_view::npos) {
-        state.Warn("line without '='");
-        return;
-    }
-    if (!state.current) {
-        if (!state.currentIsDuplicate) state.Warn("entry outside a title");
-        return;
-    }
-    SetEntry(state, Trim(line.substr(0, equals)), Trim(line.substr(equals + 1)));
 }
 
 void DropTitlesWithoutFrames(AniIndex& index) {
@@ -224,14 +210,22 @@ std::optional<AniFrame> AniIndexParser::ParseFrame(std::string_view value) {
 }
 
 AniIndex AniIndexParser::Parse(std::string_view text) {
+    const txt::IniDocument doc = txt::IniDocument::Parse(text, txt::ANIMATION_INDEX_RULES);
     ParseState state;
-    std::size_t start = 0;
-    while (start < text.size()) {
-        const std::size_t end = std::min(text.find('\n', start), text.size());
-        ++state.line;
-        ParseLine(state, text.substr(start, end - start));
-        start = end + 1;
+    for (const txt::IniIssue& issue : doc.Issues()) {
+        state.line = issue.line;
+        if (const auto what = Describe(issue)) state.Warn(*what);
     }
+    for (const txt::IniSection& section : doc.Sections()) {
+        AniTitle& title = state.index.titles[LowerAscii(section.name)];
+        title.title = section.name;
+        state.current = &title;
+        for (const txt::IniEntry& entry : section.entries) {
+            state.line = entry.line;
+            SetEntry(state, entry.key, entry.value);
+        }
+    }
+    state.FlushWarnings();
     DropTitlesWithoutFrames(state.index);
     return std::move(state.index);
 }

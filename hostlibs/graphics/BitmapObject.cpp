@@ -4,7 +4,6 @@
 
 #include <algorithm>
 
-#include "ClientPath.h"
 #include "GraphicsState.h"
 #include "ImageDecoder.h"
 
@@ -57,10 +56,7 @@ void BitmapObject::UpdatePixels(const void* pBGRA, int nSrcWidth, int nSrcHeight
 CMyBitmap* MyBitmapCreate(const char* szFile) {
     if (!szFile) return nullptr;
     gfx::Image image;
-    const std::string path = gfx::ClientPath::Resolve(szFile);
-    if (!path.empty()) {
-        if (auto decoded = gfx::ImageDecoder::DecodeFile(path)) image = std::move(*decoded);
-    }
+    if (auto decoded = gfx::ImageDecoder::DecodeClientFile(szFile)) image = std::move(*decoded);
     return new gfx::BitmapObject(szFile, std::move(image));
 }
 

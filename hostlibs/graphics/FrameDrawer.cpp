@@ -5,7 +5,7 @@
 
 #include "AniCache.h"
 #include "FontRenderer.h"
-#include "TextCodec.h"
+#include "text/Utf8.h"
 
 namespace gfx {
 namespace {
@@ -34,7 +34,7 @@ void FrameDrawer::DrawBox(ICanvas& canvas, const AniFrame& frame, const Rect& ds
     if (frame.outline) canvas.OutlineRect(dst, WithOpacity(*frame.outline, alpha));
     if (frame.label.empty() || dst.h < kMinLabelSize) return;
     const int size = std::min(kLabelSize, dst.h);
-    const std::u32string label = TextCodec::Utf8ToUtf32(frame.label);
+    const std::u32string label = txt::Utf8::ToUtf32(frame.label);
     const int width = FontRenderer::Instance().Measure(label, size);
     const Rect previous = canvas.Clip();
     canvas.SetClip(previous.Intersect(dst));

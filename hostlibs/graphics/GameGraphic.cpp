@@ -11,7 +11,7 @@
 #include "FrameDrawer.h"
 #include "GraphicsState.h"
 #include "NinePatch.h"
-#include "TextCodec.h"
+#include "text/Utf8.h"
 
 namespace {
 constexpr const char* kStrResAniFile = "ani/StrRes.ani";
@@ -101,7 +101,7 @@ int CGameGraphic::ShowStrRes(int x, int y, const char* szText, DWORD dwMode, con
     y = gfx::ClampCoord(y);
     const int size = gfx::FontRenderer::ClampSize(nFontSize > 0 ? nFontSize : kDefaultFontSize);
     const std::u32string text =
-        gfx::TextCodec::Utf8ToUtf32(std::string_view(szText, strnlen(szText, kMaxStrResLength)));
+        txt::Utf8::ToUtf32(std::string_view(szText, strnlen(szText, kMaxStrResLength)));
     const auto lines = BreakLines(text, size, nLimitWidth >= size ? nLimitWidth : 0);
     const int lineHeight = size + gfx::FontRenderer::kLineGap;
     int width = 0;
@@ -115,7 +115,7 @@ int CGameGraphic::ShowStrRes(int x, int y, const char* szText, DWORD dwMode, con
                                                .Colour(colour)
                                                .Size(size)
                                                .Frame(static_cast<int>(dwMode))
-                                               .Text(gfx::TextCodec::Utf32ToUtf8(text)));
+                                               .Text(txt::Utf8::FromUtf32(text)));
     gfx::TextStyle style;
     style.colour = colour;
     style.size = size;

@@ -5,8 +5,8 @@
 #include "FontRenderer.h"
 #include "Graphics.h"
 #include "GraphicsState.h"
-#include "TextCodec.h"
 #include "hostlibs/HostEnv.h"
+#include "text/Utf8.h"
 
 namespace {
 constexpr int kDefaultFontSize = 14;
@@ -14,8 +14,6 @@ constexpr const char* kDefaultFontName = "DejaVu Sans";
 // Longest text drawn or measured at once; longer texts are cut.
 constexpr std::size_t kMaxTextLength = 64 * 1024;
 constexpr DWORD kOpaqueAlpha = 0xFF000000;
-constexpr unsigned char kFirstLeadByte = 0xC2;
-constexpr unsigned char kLastLeadByte = 0xF4;
 
 int FontSizeOr(int size) {
     return size > 0 ? size : kDefaultFontSize;
@@ -28,12 +26,11 @@ DWORD OpaqueIfNoAlpha(DWORD colour) {
 
 std::u32string FromUtf8(const char* text) {
     if (!text) return {};
-    return gfx::TextCodec::Utf8ToUtf32(std::string_view(text, strnlen(text, kMaxTextLength)));
+    return txt::Utf8::ToUtf32(std::string_view(text, strnlen(text, kMaxTextLength)));
 }
 
 std::u32string FromUtf16(const char16_t* text) {
-    return gfx::TextCodec::Utf16ToUtf32(
-        std::u16string_view(text, gfx::TextCodec::Utf16Length(text, kMaxTextLength)));
+    return txt::Utf8::Utf16ToUtf32(std::u16string_view(text, txt::Utf8::Utf16Length(text, kMaxTextLength)));
 }
 
 void DrawText(int x, int y, DWORD colour, const std::u32string& text, int size, bool antialias, int style,
@@ -83,7 +80,7 @@ const char* CMyBitmap::GetDefaultFontName() {
 }
 
 bool CMyBitmap::IsDBCSLeadByte(unsigned char byte) {
-    return byte >= kFirstLeadByte && byte <= kLastLeadByte;
+    return txt::Utf8::IsLeadByte(byte);
 }
 
 void CMyBitmap::ShowLine(int x1, int y1, int x2, int y2, DWORD dwColor) {

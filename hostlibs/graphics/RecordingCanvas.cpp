@@ -5,7 +5,7 @@
 #include <cstdlib>
 
 #include "FontRenderer.h"
-#include "TextCodec.h"
+#include "text/Utf8.h"
 
 namespace gfx {
 namespace {
@@ -62,7 +62,7 @@ void RecordingCanvas::Text(int x, int y, const std::u32string& text, const TextS
                               FontRenderer::MeasureHeight(text, size)})
                .Colour(style.colour)
                .Size(size)
-               .Text(TextCodec::Utf32ToUtf8(text)));
+               .Text(txt::Utf8::FromUtf32(text)));
 }
 
 void RecordingCanvas::DrawImage(const Image&, const Rect&, const Rect& dst, int alpha) {

@@ -20,7 +20,7 @@ TEST(FlashStringMgr, ParsesIdsValuesAndComments) {
     EXPECT_STREQ(mgr.GetStr(12), "a=b");
     EXPECT_STREQ(mgr.GetStr(5), "NOSTR 5");
     EXPECT_STREQ(mgr.GetStr(13), "");
-    EXPECT_STREQ(mgr.GetStr(14), "trailing\r") << "only the line feed is removed";
+    EXPECT_STREQ(mgr.GetStr(14), "trailing") << "a carriage return before the line feed goes with it";
     EXPECT_EQ(mgr.GetStringCount(), 3u);
     EXPECT_FALSE(mgr.IsLoading());
 }
@@ -35,6 +35,27 @@ TEST(FlashStringMgr, LaterDuplicateWinsWithOneWarning) {
     const auto& warn = testlog::Records().back();
     EXPECT_EQ(testlog::Key(warn, "id"), "7");
     EXPECT_FALSE(testlog::Key(warn, "svr_time").empty());
+}
+
+TEST(FlashStringMgr, WindowsLineEndsReadLikeLineFeeds) {
+    const std::string lf = "; comment\n3110000=Version %s\n50000001=[19968-40869]|Text\n7=a\rb\n8=\n9=last";
+    std::string crlf;
+    for (char c : lf) crlf += c == '\n' ? std::string("\r\n") : std::string(1, c);
+    TempClientDir dir;
+    CFlashStringMgr fromLf, fromCrlf;
+    LoadTable(fromLf, dir, lf);
+    LoadTable(fromCrlf, dir, crlf);
+    ASSERT_EQ(fromCrlf.GetStringCount(), fromLf.GetStringCount());
+    for (std::uint32_t id : {3110000u, 50000001u, 7u, 8u, 9u})
+        EXPECT_STREQ(fromCrlf.GetStr(id), fromLf.GetStr(id)) << id;
+    EXPECT_STREQ(fromCrlf.GetStr(7), "a\rb") << "a carriage return inside a line stays";
+    ASSERT_EQ(fromCrlf.GetRangedCount(), 1u);
+    EXPECT_STREQ(fromCrlf.GetRanged(0).second, "Text");
+
+    // The line buffer counts the line as read with the carriage return already gone.
+    LoadTable(fromCrlf, dir, "9=" + std::string(1020, 'v') + "\r\n10=after\r\n");
+    EXPECT_EQ(std::string(fromCrlf.GetStr(9)), std::string(1020, 'v'));
+    EXPECT_STREQ(fromCrlf.GetStr(10), "after");
 }
 
 TEST(FlashStringMgr, RangedEntriesAreKeyedByTheirRange) {
