@@ -2,6 +2,9 @@
 // lines.
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <iterator>
+
 #include "LogCapture.h"
 #include "TempClientDir.h"
 #include "resources/FlashStringMgr.h"
@@ -111,4 +114,52 @@ TEST(FlashStringMgr, ClearKeepsNothingAndEmptyFileLoadsNothing) {
     LoadTable(mgr, dir, "");
     EXPECT_FALSE(mgr.IsLoading());
     EXPECT_STREQ(mgr.GetStr(1), "NOSTR 1");
+}
+
+// ---- server configuration ------------------------------------------------------------------------
+
+TEST(ServerConfiguration, DamagedFileWithHugeCountsLoadsOnlyWhatItHolds) {
+    TempClientDir dir;
+    std::ifstream in(std::string(FLASHSIM_TEST_DATA) + "/servercfg/damaged_ServerCfg.ini", std::ios::binary);
+    ASSERT_TRUE(in);
+    dir.Write("ini/ServerCfg.ini", std::string(std::istreambuf_iterator<char>(in), {}));
+    CFlashStringMgr mgr;
+    LoadTable(mgr, dir, "1=x\n");
+
+    const CfgGroupMap* groups = mgr.GetCfgGroups(2);
+    ASSERT_NE(groups, nullptr);
+    EXPECT_EQ(groups->size(), 1024u) << "groups past the bound are not read";
+    EXPECT_EQ(groups->count(1098), 0u);
+    EXPECT_EQ(mgr.GetCfgGroups(4), nullptr) << "a negative group count configures nothing";
+
+    const SCfgGroup* first = mgr.GetCfgGroup(2, 0);
+    ASSERT_NE(first, nullptr);
+    EXPECT_EQ(first->strGroupTips, "First");
+    EXPECT_TRUE(first->bSpecialMark);
+    EXPECT_TRUE(first->bAchTips) << "server 1024 is within the bound";
+    ASSERT_NE(mgr.GetCfgServer(2, 0, 0), nullptr);
+    EXPECT_EQ(mgr.GetCfgServer(2, 0, 0)->dwNameColor, 0xFF00FF00u);
+    ASSERT_NE(mgr.GetCfgServer(2, 0, 8), nullptr);
+    EXPECT_TRUE(mgr.GetCfgServer(2, 0, 8)->bAchTips);
+    EXPECT_EQ(mgr.GetCfgServer(2, 0, 9), nullptr) << "server 1025 is past the bound";
+    EXPECT_EQ(mgr.GetCfgServer(2, 0, 2), nullptr) << "\"Server0999\" is not the key of server 999";
+    EXPECT_EQ(first->mapServers.size(), 3u)
+        << "servers 1 and 1024, and one of defaults for the numbers without keys";
+
+    const SCfgServer* marked = mgr.GetCfgServer(2, 499, 6);
+    ASSERT_NE(marked, nullptr);
+    EXPECT_EQ(marked->nAchStart, 10);
+    EXPECT_EQ(marked->nAchEnd, 20);
+    EXPECT_FALSE(mgr.GetCfgGroup(2, 1)->bAchTips);
+    EXPECT_EQ(mgr.GetCfgGroup(2, 1)->mapServers.size(), 1u);
+}
+
+TEST(ServerConfiguration, MissingFileSaysSoOncePerLoad) {
+    TempClientDir dir;
+    CFlashStringMgr mgr;
+    LoadTable(mgr, dir, "1=x\n");
+    LoadTable(mgr, dir, "1=x\n");
+    ASSERT_EQ(testlog::Count("INFO", "server configuration missing"), 2);
+    EXPECT_EQ(testlog::Key(testlog::Records().front(), "file_name"), "ini/ServerCfg.ini");
+    EXPECT_EQ(mgr.GetCfgGroups(2), nullptr);
 }
