@@ -18,6 +18,8 @@ namespace {
 constexpr std::size_t LINE_BUFFER_SIZE = 1024;
 constexpr UINT CP_UTF8_CODE_PAGE = 65001;
 constexpr std::size_t LINES_RESERVED = 4096;
+// A damaged table must not flood the log: warnings of one kind past this many are counted, then summed up.
+constexpr std::size_t MAX_WARNINGS_OF_A_KIND = 100;
 
 bool IsCommentLine(std::string_view line) {
     return line.empty() || line.front() == ';' || line.substr(0, 2) == "//";
@@ -44,6 +46,7 @@ void CFlashStringMgr::Load() {
     LoadServerCfg();
     m_bLoading = true;
     Clear();
+    m_nSameIdCount = 0;
     m_mapStrings.reserve(LINES_RESERVED);
     ZrFile* file = Safefopen(STRING_FILE, "r");
     if (!file) {
@@ -58,6 +61,11 @@ void CFlashStringMgr::Load() {
         AddLine(line);
     }
     Safefclose(file);
+    if (m_nSameIdCount > MAX_WARNINGS_OF_A_KIND)
+        SysLogWarn(__FILE__, __LINE__,
+                   "strres have same id, only the first " + std::to_string(MAX_WARNINGS_OF_A_KIND) +
+                       " logged",
+                   "count", std::to_string(m_nSameIdCount));
     m_bLoading = false;
 }
 
@@ -71,7 +79,8 @@ void CFlashStringMgr::AddLine(std::string_view line) {
     const std::string_view value = line.substr(eq + 1);
 
     if (const auto it = m_mapStrings.find(nId); it != m_mapStrings.end()) {
-        SysLogWarn(__FILE__, __LINE__, "strres have same id", "id", std::to_string(nId));
+        if (++m_nSameIdCount <= MAX_WARNINGS_OF_A_KIND)
+            SysLogWarn(__FILE__, __LINE__, "strres have same id", "id", std::to_string(nId));
         m_mapStrings.erase(it);
     }
     if (nId >= RANGED_ID_FIRST && nId <= RANGED_ID_LAST) AddRanged(value);

@@ -71,4 +71,5 @@ private:
     std::map<std::int64_t, CZrString> m_mapRanged;
     bool m_bLoading = false;
     std::map<std::int32_t, CfgGroupMap> m_mapServerCfg; ///< by model number
+    std::size_t m_nSameIdCount = 0;                     ///< repeated ids of the load in progress
 };

@@ -40,6 +40,23 @@ TEST(FlashStringMgr, LaterDuplicateWinsWithOneWarning) {
     EXPECT_FALSE(testlog::Key(warn, "svr_time").empty());
 }
 
+TEST(FlashStringMgr, RepeatedIdsPastAHundredAreSummedUpInOneLine) {
+    std::string table;
+    for (int i = 0; i < 100000; ++i) table += "50000001=[19968-40869]|Text\n";
+    TempClientDir dir;
+    CFlashStringMgr mgr;
+    testlog::Expect("WARN", "strres have same id");
+    LoadTable(mgr, dir, table);
+    EXPECT_EQ(testlog::Count("WARN", "strres have same id"), 101);
+    const auto& summary = testlog::Records().back();
+    EXPECT_EQ(summary.message, "strres have same id, only the first 100 logged");
+    EXPECT_EQ(testlog::Key(summary, "count"), "99999");
+    EXPECT_EQ(mgr.GetRangedCount(), 1u);
+
+    LoadTable(mgr, dir, "7=a\n7=b\n");
+    EXPECT_EQ(testlog::Count("WARN", "strres have same id"), 102) << "each load counts anew";
+}
+
 TEST(FlashStringMgr, WindowsLineEndsReadLikeLineFeeds) {
     const std::string lf = "; comment\n3110000=Version %s\n50000001=[19968-40869]|Text\n7=a\rb\n8=\n9=last";
     std::string crlf;
