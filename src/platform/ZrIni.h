@@ -8,7 +8,7 @@
 
 #include "BaseLib.h"
 
-class HOSTLIB_API CZrIni {
+class CZrIni {
 public:
     CZrIni();
     ~CZrIni();
