@@ -8,22 +8,22 @@
 
 namespace gfx {
 namespace {
-constexpr std::string_view kBlanks = " \t\r\n";
-constexpr std::string_view kFramePrefix = "frame";
-constexpr std::string_view kBoxWord = "box";
-constexpr std::string_view kNoColour = "none";
+constexpr std::string_view BLANKS = " \t\r\n";
+constexpr std::string_view FRAME_PREFIX = "frame";
+constexpr std::string_view BOX_WORD = "box";
+constexpr std::string_view NO_COLOUR = "none";
 
 std::string_view Trim(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(kBlanks);
+    const std::size_t first = text.find_first_not_of(BLANKS);
     if (first == std::string_view::npos) return {};
-    const std::size_t last = text.find_last_not_of(kBlanks);
+    const std::size_t last = text.find_last_not_of(BLANKS);
     return text.substr(first, last - first + 1);
 }
 
 // Splits off the first blank-separated word; text keeps the rest, trimmed.
 std::string_view NextWord(std::string_view& text) {
     text = Trim(text);
-    const std::size_t end = std::min(text.find_first_of(kBlanks), text.size());
+    const std::size_t end = std::min(text.find_first_of(BLANKS), text.size());
     const std::string_view word = text.substr(0, end);
     text = Trim(text.substr(end));
     return word;
@@ -39,14 +39,14 @@ std::optional<int> ParseInt(std::string_view text) {
 
 // "L,T,R,B": exactly four non-negative numbers.
 std::optional<AniBorder> ParseBorder(std::string_view text) {
-    constexpr int kSides = 4;
-    int values[kSides] = {};
-    for (int i = 0; i < kSides; ++i) {
+    constexpr int SIDES = 4;
+    int values[SIDES] = {};
+    for (int i = 0; i < SIDES; ++i) {
         const std::size_t comma = text.find(',');
-        const bool last = i == kSides - 1;
+        const bool last = i == SIDES - 1;
         if (last != (comma == std::string_view::npos)) return std::nullopt;
         const auto value = ParseInt(Trim(text.substr(0, comma)));
-        if (!value || *value < 0 || *value > AniIndexParser::kMaxBoxSide) return std::nullopt;
+        if (!value || *value < 0 || *value > AniIndexParser::MAX_BOX_SIDE) return std::nullopt;
         values[i] = *value;
         if (!last) text = text.substr(comma + 1);
     }
@@ -57,8 +57,8 @@ std::optional<AniFrame> ParseBox(std::string_view rest) {
     const auto width = ParseInt(NextWord(rest));
     const auto height = ParseInt(NextWord(rest));
     if (!width || !height) return std::nullopt;
-    if (*width <= 0 || *height <= 0 || *width > AniIndexParser::kMaxBoxSide ||
-        *height > AniIndexParser::kMaxBoxSide) {
+    if (*width <= 0 || *height <= 0 || *width > AniIndexParser::MAX_BOX_SIDE ||
+        *height > AniIndexParser::MAX_BOX_SIDE) {
         return std::nullopt;
     }
     AniFrame frame;
@@ -68,11 +68,11 @@ std::optional<AniFrame> ParseBox(std::string_view rest) {
     const std::string_view fill = NextWord(rest);
     if (fill.empty()) return std::nullopt;
     frame.fill = AniIndexParser::ParseColour(fill);
-    if (!frame.fill && LowerAscii(fill) != kNoColour) return std::nullopt;
+    if (!frame.fill && LowerAscii(fill) != NO_COLOUR) return std::nullopt;
     const std::string_view outline = NextWord(rest);
     if (!outline.empty()) {
         frame.outline = AniIndexParser::ParseColour(outline);
-        if (!frame.outline && LowerAscii(outline) != kNoColour) return std::nullopt;
+        if (!frame.outline && LowerAscii(outline) != NO_COLOUR) return std::nullopt;
     }
     frame.label = std::string(rest);
     if (frame.outline) frame.labelColour = *frame.outline;
@@ -120,7 +120,7 @@ std::optional<std::string> Describe(const txt::IniIssue& issue) {
 
 void SetFrame(ParseState& state, std::string_view number, std::string_view value) {
     const auto index = ParseInt(number);
-    if (!index || *index < 0 || *index >= AniIndexParser::kMaxFrames) {
+    if (!index || *index < 0 || *index >= AniIndexParser::MAX_FRAMES) {
         state.Warn("bad frame number '" + std::string(number) + "'");
         return;
     }
@@ -137,11 +137,11 @@ void SetFrame(ParseState& state, std::string_view number, std::string_view value
 
 void SetEntry(ParseState& state, std::string_view key, std::string_view value) {
     const std::string lowered = LowerAscii(key);
-    if (lowered.rfind(kFramePrefix, 0) == 0) {
-        SetFrame(state, std::string_view(lowered).substr(kFramePrefix.size()), value);
+    if (lowered.rfind(FRAME_PREFIX, 0) == 0) {
+        SetFrame(state, std::string_view(lowered).substr(FRAME_PREFIX.size()), value);
     } else if (lowered == "interval") {
         const auto ms = ParseInt(value);
-        if (!ms || *ms <= 0 || *ms > AniIndexParser::kMaxIntervalMs) {
+        if (!ms || *ms <= 0 || *ms > AniIndexParser::MAX_INTERVAL_MS) {
             state.Warn("bad interval '" + std::string(value) + "'");
             return;
         }
@@ -193,8 +193,8 @@ std::optional<DWORD> AniIndexParser::ParseColour(std::string_view text) {
     const char* end = text.data() + text.size();
     const auto result = std::from_chars(text.data(), end, value, 16);
     if (result.ec != std::errc() || result.ptr != end) return std::nullopt;
-    constexpr DWORD kOpaque = 0xFF000000;
-    return text.size() == 6 ? (value | kOpaque) : value;
+    constexpr DWORD OPAQUE_BITS = 0xFF000000;
+    return text.size() == 6 ? (value | OPAQUE_BITS) : value;
 }
 
 std::optional<AniFrame> AniIndexParser::ParseFrame(std::string_view value) {
@@ -202,7 +202,7 @@ std::optional<AniFrame> AniIndexParser::ParseFrame(std::string_view value) {
     if (value.empty()) return std::nullopt;
     std::string_view rest = value;
     const std::string_view first = NextWord(rest);
-    if (LowerAscii(first) == kBoxWord) return ParseBox(rest);
+    if (LowerAscii(first) == BOX_WORD) return ParseBox(rest);
     AniFrame frame;
     frame.kind = AniFrame::Kind::Image;
     frame.path = std::string(value);

@@ -32,7 +32,7 @@ void RecordingCanvas::Begin(int width, int height, DWORD) {
 void RecordingCanvas::Record(host::DrawOp op) {
     if (m_compoundDepth > 0) return;
     if (Bounds(op).Intersect(m_clip).Empty()) return;
-    if (m_ops.size() >= host::kMaxRecordedOps) {
+    if (m_ops.size() >= host::MAX_RECORDED_OPS) {
         ++m_dropped;
         return;
     }

@@ -44,9 +44,9 @@ CanvasKind GetCanvasKind();
 /// the clip rectangle to the whole screen.
 void BeginFrame(DWORD dwClearColour = 0xFF000000);
 
-/// The operations recorded since the last BeginFrame (empty for a raster canvas). At most kMaxRecordedOps are
-/// kept per frame; DroppedOpCount tells how many more were drawn.
-inline constexpr std::size_t kMaxRecordedOps = 100000;
+/// The operations recorded since the last BeginFrame (empty for a raster canvas). At most MAX_RECORDED_OPS
+/// are kept per frame; DroppedOpCount tells how many more were drawn.
+inline constexpr std::size_t MAX_RECORDED_OPS = 100000;
 std::vector<DrawOp> GetRecordedOps();
 std::size_t DroppedOpCount();
 /// The recorded operations, one ToString line each, every line ending in a newline.
