@@ -21,24 +21,22 @@ bool IsWriteMode(const char* szMode) {
     return std::strpbrk(szMode, "wa") != nullptr;
 }
 
-// fgets with the text mode's translation: a "\r" directly before "\n" is dropped, any other "\r" is kept.
+// fgets with the text mode's translation: a "\r" directly before "\n" reads as that "\n", any other "\r"
+// stays. NOTE: fgets stops at the first "\n", so a translated pair can only end the piece read, or be split
+// by the buffer's end; the line then holds what the translated stream would have put into the same buffer.
 char* TextModeGets(char* szBuf, int nSize, std::FILE* fp) {
-    int n = 0;
-    while (n < nSize - 1) {
-        int c = std::getc(fp);
-        if (c == EOF) break;
-        if (c == '\r') {
-            const int next = std::getc(fp);
-            if (next == '\n')
-                c = '\n';
-            else if (next != EOF)
-                std::ungetc(next, fp);
-        }
-        szBuf[n++] = static_cast<char>(c);
-        if (c == '\n') break;
+    if (!std::fgets(szBuf, nSize, fp)) return nullptr;
+    const std::size_t n = std::strlen(szBuf);
+    if (n >= 2 && szBuf[n - 2] == '\r' && szBuf[n - 1] == '\n') {
+        szBuf[n - 2] = '\n';
+        szBuf[n - 1] = '\0';
+    } else if (n >= 1 && szBuf[n - 1] == '\r') {
+        const int next = std::getc(fp);
+        if (next == '\n')
+            szBuf[n - 1] = '\n';
+        else if (next != EOF)
+            std::ungetc(next, fp);
     }
-    if (n == 0) return nullptr;
-    szBuf[n] = '\0';
     return szBuf;
 }
 } // namespace
