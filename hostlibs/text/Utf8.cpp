@@ -128,7 +128,16 @@ std::size_t Utf8::CutAtBoundary(std::string_view text, std::size_t limit) {
 std::u32string Utf8::ToUtf32(std::string_view text) {
     std::u32string out;
     out.reserve(text.size());
-    for (std::size_t pos = 0; pos < text.size();) out += Decode(text, pos);
+    for (std::size_t pos = 0; pos < text.size();) {
+        // ASCII needs no decoding: texts are drawn every frame and are mostly ASCII.
+        const auto c = static_cast<unsigned char>(text[pos]);
+        if (c < 0x80) {
+            out += static_cast<char32_t>(c);
+            ++pos;
+            continue;
+        }
+        out += Decode(text, pos);
+    }
     return out;
 }
 
@@ -151,7 +160,12 @@ std::u16string Utf8::ToUtf16(std::string_view text) {
 std::string Utf8::FromUtf32(std::u32string_view text) {
     std::string out;
     out.reserve(text.size());
-    for (char32_t c : text) Append(out, c);
+    for (char32_t c : text) {
+        if (c < 0x80)
+            out += static_cast<char>(c);
+        else
+            Append(out, c);
+    }
     return out;
 }
 
