@@ -17,9 +17,9 @@ inline int SaturatedAdd(long long a, long long b) {
 
 /// Coordinates and sizes handed to the graphics library are kept within this distance of the origin: nothing
 /// that far away is on any screen, and the drawing code may then add offsets without overflowing.
-inline constexpr int kCoordLimit = 1 << 28;
+inline constexpr int COORD_LIMIT = 1 << 28;
 inline int ClampCoord(int n) {
-    return n > kCoordLimit ? kCoordLimit : n < -kCoordLimit ? -kCoordLimit : n;
+    return n > COORD_LIMIT ? COORD_LIMIT : n < -COORD_LIMIT ? -COORD_LIMIT : n;
 }
 inline RECT ClampRECT(const RECT& rc) {
     return {ClampCoord(rc.left), ClampCoord(rc.top), ClampCoord(rc.right), ClampCoord(rc.bottom)};
@@ -68,8 +68,8 @@ struct TextStyle {
     DWORD effectColour = 0xFF000000;
 };
 
-inline constexpr int kTextEffectShadow = 1;
-inline constexpr int kTextEffectOutline = 2;
+inline constexpr int TEXT_EFFECT_SHADOW = 1;
+inline constexpr int TEXT_EFFECT_OUTLINE = 2;
 
 /// Receives the drawing. Coordinates are screen pixels; every primitive is limited to the clip rectangle.
 class ICanvas {

@@ -9,16 +9,16 @@
 
 namespace gfx {
 namespace {
-constexpr const char* kFontPath = "/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf";
+constexpr const char* FONT_PATH = "/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf";
 // Lets a machine without the font package point at another face.
-constexpr const char* kFontPathVariable = "FLASHSIM_FONT";
-constexpr int kMinSize = 4;
-constexpr int kMaxSize = 256;
-constexpr std::size_t kMaxCachedGlyphs = 20000;
+constexpr const char* FONT_PATH_VARIABLE = "FLASHSIM_FONT";
+constexpr int MIN_SIZE = 4;
+constexpr int MAX_SIZE = 256;
+constexpr std::size_t MAX_CACHED_GLYPHS = 20000;
 
 const char* FontPath() {
-    const char* overridden = std::getenv(kFontPathVariable);
-    return overridden && *overridden ? overridden : kFontPath;
+    const char* overridden = std::getenv(FONT_PATH_VARIABLE);
+    return overridden && *overridden ? overridden : FONT_PATH;
 }
 } // namespace
 
@@ -41,7 +41,7 @@ FontRenderer::~FontRenderer() {
 }
 
 int FontRenderer::ClampSize(int size) {
-    return std::clamp(size, kMinSize, kMaxSize);
+    return std::clamp(size, MIN_SIZE, MAX_SIZE);
 }
 
 bool FontRenderer::SelectSize(int size) {
@@ -57,7 +57,7 @@ const Glyph* FontRenderer::GetGlyph(char32_t c, int size) {
     std::lock_guard lock(m_mutex);
     const auto key = std::make_pair(size, c);
     if (auto it = m_glyphs.find(key); it != m_glyphs.end()) return &it->second;
-    if (m_glyphs.size() >= kMaxCachedGlyphs) m_glyphs.clear();
+    if (m_glyphs.size() >= MAX_CACHED_GLYPHS) m_glyphs.clear();
     if (!SelectSize(size) || FT_Load_Char(m_face, c, FT_LOAD_RENDER) != 0) return nullptr;
     const FT_GlyphSlot slot = m_face->glyph;
     Glyph glyph;
@@ -114,7 +114,7 @@ int FontRenderer::MeasureHeight(std::u32string_view text, int size) {
     if (text.empty()) return 0;
     size = ClampSize(size);
     const auto lines = static_cast<int>(std::count(text.begin(), text.end(), U'\n')) + 1;
-    return lines * size + (lines - 1) * kLineGap;
+    return lines * size + (lines - 1) * LINE_GAP;
 }
 
 } // namespace gfx

@@ -47,7 +47,7 @@ public:
     /// Height of the text: one font size per line plus the line gap between lines.
     static int MeasureHeight(std::u32string_view text, int size);
     /// Extra pixels between two lines of one text.
-    static constexpr int kLineGap = 2;
+    static constexpr int LINE_GAP = 2;
 
 private:
     FontRenderer();

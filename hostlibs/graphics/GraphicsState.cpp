@@ -5,7 +5,7 @@
 
 namespace gfx {
 namespace {
-constexpr DWORD kDefaultClearColour = 0xFF000000;
+constexpr DWORD DEFAULT_CLEAR_COLOUR = 0xFF000000;
 }
 
 GraphicsState& GraphicsState::Instance() {
@@ -31,7 +31,7 @@ void GraphicsState::Use(host::CanvasKind kind) {
     } else {
         m_canvas = std::make_unique<RecordingCanvas>();
     }
-    BeginFrame(kDefaultClearColour);
+    BeginFrame(DEFAULT_CLEAR_COLOUR);
 }
 
 void GraphicsState::BeginFrame(DWORD clearColour) {

@@ -5,7 +5,7 @@
 #include <cstdlib>
 
 #include "FontRenderer.h"
-#include "TextCodec.h"
+#include "text/Utf8.h"
 
 namespace gfx {
 namespace {
@@ -32,7 +32,7 @@ void RecordingCanvas::Begin(int width, int height, DWORD) {
 void RecordingCanvas::Record(host::DrawOp op) {
     if (m_compoundDepth > 0) return;
     if (Bounds(op).Intersect(m_clip).Empty()) return;
-    if (m_ops.size() >= host::kMaxRecordedOps) {
+    if (m_ops.size() >= host::MAX_RECORDED_OPS) {
         ++m_dropped;
         return;
     }
@@ -62,7 +62,7 @@ void RecordingCanvas::Text(int x, int y, const std::u32string& text, const TextS
                               FontRenderer::MeasureHeight(text, size)})
                .Colour(style.colour)
                .Size(size)
-               .Text(TextCodec::Utf32ToUtf8(text)));
+               .Text(txt::Utf8::FromUtf32(text)));
 }
 
 void RecordingCanvas::DrawImage(const Image&, const Rect&, const Rect& dst, int alpha) {

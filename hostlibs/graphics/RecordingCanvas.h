@@ -8,7 +8,7 @@
 namespace gfx {
 
 /// Records each primitive, or each outermost compound instead of its parts. Operations wholly outside the
-/// clip rectangle are not recorded (they are not seen); at most host::kMaxRecordedOps are kept per frame.
+/// clip rectangle are not recorded (they are not seen); at most host::MAX_RECORDED_OPS are kept per frame.
 class RecordingCanvas final : public ICanvas {
 public:
     void Begin(int width, int height, DWORD clearColour) override;

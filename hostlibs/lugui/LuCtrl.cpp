@@ -91,9 +91,14 @@ LRESULT CLuCtrl::WindowProc(UINT uMsg, WPARAM wParam, LPARAM lParam) {
         if (bClicked) OnClicked();
         return 1;
     }
-    case WM_MOUSEMOVE:
-        OnMouseMove(nFlags, pt);
+    case WM_MOUSEMOVE: {
+        // NOTE: a move reaches the control in its own client coordinates (presses and releases stay in screen
+        // coordinates): the edits' drag selection counts characters from the edit's left edge.
+        POINT ptClient = pt;
+        ScreenToClient(&ptClient);
+        OnMouseMove(nFlags, ptClient);
         return 1;
+    }
     case WM_RBUTTONDOWN:
         OnRButtonDown(nFlags, pt);
         return 1;

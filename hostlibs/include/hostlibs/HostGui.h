@@ -10,7 +10,7 @@
 namespace host {
 
 /// The state of one window, as the toolkit keeps it.
-struct HOSTLIB_API WindowState {
+struct WindowState {
     std::string kind;     ///< "Dialog", "Button", "Check", "Edit", "Image", "List", "Progress", "Static"
     bool visible = false; ///< the window's own flag (a control of a hidden dialog can be visible)
     bool shown = false;   ///< visible, and its dialog too
@@ -31,8 +31,8 @@ struct HOSTLIB_API WindowState {
 };
 
 /// Describes dialog nDialog (template id) of the live dialog manager; false when there is none.
-HOSTLIB_API bool DescribeDialog(UINT nDialog, WindowState& out);
+bool DescribeDialog(UINT nDialog, WindowState& out);
 /// Describes control nControl of dialog nDialog; false when either does not exist.
-HOSTLIB_API bool DescribeControl(UINT nDialog, UINT nControl, WindowState& out);
+bool DescribeControl(UINT nDialog, UINT nControl, WindowState& out);
 
 } // namespace host

@@ -98,9 +98,9 @@ TEST_F(RecordingCanvasTest, NinePatchAndStringResourcesAreRecordedWhole) {
 
 TEST_F(RecordingCanvasTest, RecordingStopsAtItsLimitAndCountsTheRest) {
     constexpr std::size_t kExtra = 5;
-    for (std::size_t i = 0; i < host::kMaxRecordedOps + kExtra; ++i)
+    for (std::size_t i = 0; i < host::MAX_RECORDED_OPS + kExtra; ++i)
         CMyBitmap::ShowBlock({0, 0, 1, 1}, 0xFF000000);
-    EXPECT_EQ(host::GetRecordedOps().size(), host::kMaxRecordedOps);
+    EXPECT_EQ(host::GetRecordedOps().size(), host::MAX_RECORDED_OPS);
     EXPECT_EQ(host::DroppedOpCount(), kExtra);
     host::BeginFrame();
     EXPECT_EQ(host::DroppedOpCount(), 0u);
