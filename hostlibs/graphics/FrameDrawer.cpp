@@ -35,7 +35,7 @@ void FrameDrawer::DrawBox(ICanvas& canvas, const AniFrame& frame, const Rect& ds
     if (frame.label.empty() || dst.h < kMinLabelSize) return;
     const int size = std::min(kLabelSize, dst.h);
     const std::u32string label = TextCodec::Utf8ToUtf32(frame.label);
-    const int width = FontRenderer::Instance().Measure(label, size);
+    const int width = FontRenderer::Measure(label, size);
     const Rect previous = canvas.Clip();
     canvas.SetClip(previous.Intersect(dst));
     TextStyle style;

@@ -12,6 +12,7 @@
 #include "LuEdit.h"
 #include "LuGui.h"
 #include "LuLayoutRecord.h"
+#include "WindowClip.h"
 
 namespace LuGui {
 
@@ -56,9 +57,13 @@ BOOL CLuDialog::PreInitData() {
 
 int CLuDialog::Show() {
     if (!m_bVisible || m_bHideState) return 0;
+    const WindowClip dialogClip(*this);
     ShowBackGround();
-    for (CLuCtrl* pCtrl : m_vecCtrls)
-        if (pCtrl->IsWindowVisible()) pCtrl->Show();
+    for (CLuCtrl* pCtrl : m_vecCtrls) {
+        if (!pCtrl->IsWindowVisible()) continue;
+        const WindowClip controlClip(*pCtrl);
+        pCtrl->Show();
+    }
     return 1;
 }
 

@@ -1,6 +1,7 @@
 // Executes scenario steps against the system library and writes the transcript.
 #pragma once
 
+#include <set>
 #include <string>
 #include <vector>
 
@@ -9,10 +10,11 @@
 #include "Transcript.h"
 
 struct RunOptions {
-    std::string scenarioPath; ///< the scenario file (relative paths of "dir" resolve against its folder)
-    std::string libraryPath;  ///< the system library to load
-    std::string resDir;       ///< the default client directory
-    std::string outDir;       ///< where "shot" writes its pictures
+    std::string scenarioPath;  ///< the scenario file (relative paths of "dir" resolve against its folder)
+    std::string libraryPath;   ///< the system library to load
+    std::string resDir;        ///< the default client directory
+    std::string outDir;        ///< where "shot" writes its pictures
+    bool checkDrawing = false; ///< after every frame, report texts and pictures drawn past their window
 };
 
 class ScenarioRunner {
@@ -56,6 +58,9 @@ private:
     void SendMouse(UINT uMsg, int x, int y);
 
     void InstallLogSink();
+    /// Prints each overflow of the frame not printed before: "! cut at ..." for what the clip cut at the
+    /// window's edge, "! drawn outside ..." (a failure) for what is seen outside its window.
+    void ReportOverflows();
 
     RunOptions m_options;
     Transcript& m_transcript;
@@ -63,4 +68,5 @@ private:
     IFlashSimulator* m_pSim = nullptr;
     bool m_bLogOn = false;
     bool m_bFailed = false;
+    std::set<std::string> m_reportedOverflows;
 };

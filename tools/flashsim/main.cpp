@@ -12,13 +12,16 @@
 
 namespace {
 int Usage() {
-    std::fprintf(stderr,
-                 "usage: flashsim run|check FILE [--lib PATH] [--res DIR] [--out DIR]\n"
-                 "  run    executes the scenario and prints its transcript\n"
-                 "  check  executes it and compares the transcript with FILE's .out file\n"
-                 "  --lib  the system library (default: the one built with this host; env FLASHSIM_LIBRARY)\n"
-                 "  --res  the default client directory (default: the sample one; env FLASHSIM_RES)\n"
-                 "  --out  where shot writes pictures (default: the current directory; env FLASHSIM_OUT)\n");
+    std::fprintf(
+        stderr,
+        "usage: flashsim run|check FILE [--lib PATH] [--res DIR] [--out DIR] [--check-drawing]\n"
+        "  run    executes the scenario and prints its transcript\n"
+        "  check  executes it and compares the transcript with FILE's .out file\n"
+        "  --lib  the system library (default: the one built with this host; env FLASHSIM_LIBRARY)\n"
+        "  --res  the default client directory (default: the sample one; env FLASHSIM_RES)\n"
+        "  --out  where shot writes pictures (default: the current directory; env FLASHSIM_OUT)\n"
+        "  --check-drawing  after every frame, prints each text or picture drawn past its window\n"
+        "         (\"! cut at\" when the clip cut it there, \"! drawn outside\" otherwise, which fails)\n");
     return 2;
 }
 
@@ -52,18 +55,24 @@ int main(int argc, char** argv) {
     const std::string mode = argv[1];
     if (mode != "run" && mode != "check") return Usage();
     RunOptions options{argv[2], EnvOr("FLASHSIM_LIBRARY", FLASHSIM_LIBRARY_PATH),
-                       EnvOr("FLASHSIM_RES", FLASHSIM_DEFAULT_RES_DIR), EnvOr("FLASHSIM_OUT", ".")};
-    for (int i = 3; i + 1 < argc; i += 2) {
-        if (std::strcmp(argv[i], "--lib") == 0)
-            options.libraryPath = argv[i + 1];
-        else if (std::strcmp(argv[i], "--res") == 0)
-            options.resDir = argv[i + 1];
-        else if (std::strcmp(argv[i], "--out") == 0)
-            options.outDir = argv[i + 1];
+                       EnvOr("FLASHSIM_RES", FLASHSIM_DEFAULT_RES_DIR), EnvOr("FLASHSIM_OUT", "."), false};
+    for (int i = 3; i < argc; ++i) {
+        const char* arg = argv[i];
+        if (std::strcmp(arg, "--check-drawing") == 0) {
+            options.checkDrawing = true;
+            continue;
+        }
+        if (i + 1 >= argc) return Usage();
+        const char* value = argv[++i];
+        if (std::strcmp(arg, "--lib") == 0)
+            options.libraryPath = value;
+        else if (std::strcmp(arg, "--res") == 0)
+            options.resDir = value;
+        else if (std::strcmp(arg, "--out") == 0)
+            options.outDir = value;
         else
             return Usage();
     }
-    if ((argc - 3) % 2 != 0) return Usage();
 
     std::vector<ScenarioStep> steps;
     if (!ReadScenario(options.scenarioPath, steps)) {
