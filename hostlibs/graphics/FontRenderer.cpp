@@ -15,6 +15,7 @@ namespace {
 // Debian's fonts-noto-cjk: one collection file holding the proportional and the monospaced faces.
 constexpr const char* kFontPath = "/usr/share/fonts/opentype/noto/NotoSansCJK-Regular.ttc";
 constexpr const char* kFamily = "Noto Sans Mono CJK SC";
+constexpr FT_Long kFamilyIndex = 7; // its place in Debian's collection
 // Lets a machine without the font package point at another file; its face named kFamily is used, else its
 // first face.
 constexpr const char* kFontPathVariable = "FLASHSIM_FONT";
@@ -63,23 +64,33 @@ FontRenderer::~FontRenderer() {
 }
 
 bool FontRenderer::OpenFace(const char* path) {
-    FT_Face first = nullptr;
-    if (FT_New_Face(m_library, path, 0, &first) != 0) return false;
     auto isWanted = [](FT_Face face) {
         return face->family_name && std::strcmp(face->family_name, kFamily) == 0;
     };
-    FT_Face chosen = first;
-    for (FT_Long i = 1; i < first->num_faces && !isWanted(chosen); ++i) {
-        FT_Face face = nullptr;
-        if (FT_New_Face(m_library, path, i, &face) != 0) continue;
-        if (isWanted(face))
-            chosen = face;
-        else
-            FT_Done_Face(face);
+    // Opening a face of the collection reads its tables: the known place of the face is tried first.
+    FT_Face face = nullptr;
+    if (FT_New_Face(m_library, path, kFamilyIndex, &face) == 0) {
+        if (isWanted(face)) return UseFace(face);
+        FT_Done_Face(face);
     }
-    if (chosen != first) FT_Done_Face(first);
-    m_face = chosen;
-    m_ascentPerMille = AscentPerMille(chosen);
+    if (FT_New_Face(m_library, path, 0, &face) != 0) return false;
+    const FT_Long faces = face->num_faces;
+    for (FT_Long i = 1; i < faces && !isWanted(face); ++i) {
+        FT_Face next = nullptr;
+        if (FT_New_Face(m_library, path, i, &next) != 0) continue;
+        if (!isWanted(next)) {
+            FT_Done_Face(next);
+            continue;
+        }
+        FT_Done_Face(face);
+        face = next;
+    }
+    return UseFace(face); // without a face of that family, the file's first face
+}
+
+bool FontRenderer::UseFace(FT_FaceRec_* face) {
+    m_face = face;
+    m_ascentPerMille = AscentPerMille(face);
     return true;
 }
 

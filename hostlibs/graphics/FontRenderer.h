@@ -55,7 +55,9 @@ public:
 
 private:
     FontRenderer();
+    /// Opens the face of the family of the font file, or its first face; false when the file cannot be read.
     bool OpenFace(const char* path);
+    bool UseFace(::FT_FaceRec_* face);
     bool SelectSize(int size);
 
     ::FT_LibraryRec_* m_library = nullptr;

@@ -35,9 +35,13 @@ public:
     const std::vector<host::DrawOverflow>& Overflows() const { return m_overflows; }
 
 private:
-    void Record(host::DrawOp op);
-    /// Keeps op when it is a text or picture that reaches past the window drawing it.
-    void CheckInsideWindow(const host::DrawOp& op);
+    /// Texts and pictures are checked against the window drawing them; shapes are the toolkit's own marks
+    /// (selections, carets, bars).
+    enum class Content { Shape, TextOrPicture };
+    /// Keeps op, which touches the pixels of bounds, unless it is wholly outside the clip.
+    void Record(host::DrawOp op, const Rect& bounds, Content content);
+    /// Keeps op when it reaches past the window drawing it.
+    void CheckInsideWindow(const host::DrawOp& op, const Rect& bounds);
 
     int m_width = 0;
     int m_height = 0;
