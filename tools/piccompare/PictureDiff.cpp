@@ -6,7 +6,6 @@
 
 namespace {
 constexpr int kChannels = 4;
-constexpr int kPerMille = 1000;
 constexpr std::uint8_t kMarkRed[kChannels] = {255, 0, 0, 255};
 } // namespace
 
@@ -15,7 +14,6 @@ PictureDiff::PictureDiff(const RgbaPicture& golden, const RgbaPicture& actual)
     m_sameSize = golden.width == actual.width && golden.height == actual.height;
     if (!m_sameSize) return;
     const long long pixels = static_cast<long long>(golden.width) * golden.height;
-    m_allowed = static_cast<int>(pixels * kPixelsPerMille / kPerMille);
     m_mask.assign(static_cast<std::size_t>(pixels), false);
     for (int y = 0; y < golden.height; ++y) {
         for (int x = 0; x < golden.width; ++x) {
@@ -44,7 +42,7 @@ std::string PictureDiff::Summary() const {
                ", golden " + std::to_string(m_golden.width) + "x" + std::to_string(m_golden.height);
     }
     if (m_differing == 0) return "same";
-    return std::to_string(m_differing) + " pixels differ (at most " + std::to_string(m_allowed) +
+    return std::to_string(m_differing) + " pixels differ (at most " + std::to_string(kAllowedPixels) +
            " may), within " + std::to_string(m_left) + "," + std::to_string(m_top) + " to " +
            std::to_string(m_right) + "," + std::to_string(m_bottom);
 }

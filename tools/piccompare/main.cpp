@@ -14,8 +14,8 @@ int Usage() {
         stderr,
         "usage: piccompare GOLDEN ACTUAL [--diff FILE]\n"
         "  a pixel differs when a channel differs by more than %d; the pictures match while at most\n"
-        "  %d in 1000 pixels differ\n",
-        PictureDiff::kChannelTolerance, PictureDiff::kPixelsPerMille);
+        "  %d pixels differ\n",
+        PictureDiff::kChannelTolerance, PictureDiff::kAllowedPixels);
     return 2;
 }
 } // namespace
