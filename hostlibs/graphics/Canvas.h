@@ -68,6 +68,13 @@ struct TextStyle {
     DWORD effectColour = 0xFF000000;
 };
 
+/// The window of the widget toolkit whose drawing follows: a dialog, or one of its controls.
+struct WindowTag {
+    unsigned dialog = 0;  ///< template id of the dialog
+    unsigned control = 0; ///< control id; 0 for the dialog itself
+    Rect rect;            ///< the window's screen rectangle
+};
+
 inline constexpr int TEXT_EFFECT_SHADOW = 1;
 inline constexpr int TEXT_EFFECT_OUTLINE = 2;
 
@@ -95,6 +102,11 @@ public:
     /// that a canvas that records operations can keep the compound instead of its parts. Compounds may nest.
     virtual void BeginCompound(const host::DrawOp& op) = 0;
     virtual void EndCompound() = 0;
+
+    /// Brackets what one window draws, so that a canvas that checks the drawing can compare it with the
+    /// window's rectangle. Windows nest (a dialog, then its controls); the innermost one is the drawer.
+    virtual void BeginWindow(const WindowTag& window) = 0;
+    virtual void EndWindow() = 0;
 };
 
 /// Builds a recorded operation field by field.

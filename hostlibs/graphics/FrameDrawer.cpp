@@ -35,7 +35,7 @@ void FrameDrawer::DrawBox(ICanvas& canvas, const AniFrame& frame, const Rect& ds
     if (frame.label.empty() || dst.h < MIN_LABEL_SIZE) return;
     const int size = std::min(LABEL_SIZE, dst.h);
     const std::u32string label = txt::Utf8::ToUtf32(frame.label);
-    const int width = FontRenderer::Instance().Measure(label, size);
+    const int width = FontRenderer::Measure(label, size);
     const Rect previous = canvas.Clip();
     canvas.SetClip(previous.Intersect(dst));
     TextStyle style;

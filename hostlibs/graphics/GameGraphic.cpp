@@ -40,14 +40,13 @@ bool HasVisibleFrame(const gfx::AniHandle& ani) {
 std::vector<std::u32string> BreakLines(const std::u32string& text, int size, int limit) {
     std::vector<std::u32string> lines(1);
     int width = 0;
-    gfx::FontRenderer& font = gfx::FontRenderer::Instance();
     for (char32_t c : text) {
         if (c == U'\n') {
             lines.emplace_back();
             width = 0;
             continue;
         }
-        const int advance = font.Measure(std::u32string_view(&c, 1), size);
+        const int advance = gfx::FontRenderer::CellWidth(c, size);
         if (limit > 0 && width + advance > limit && !lines.back().empty()) {
             lines.emplace_back();
             width = 0;
@@ -105,7 +104,7 @@ int CGameGraphic::ShowStrRes(int x, int y, const char* szText, DWORD dwMode, con
     const auto lines = BreakLines(text, size, nLimitWidth >= size ? nLimitWidth : 0);
     const int lineHeight = size + gfx::FontRenderer::LINE_GAP;
     int width = 0;
-    for (const auto& line : lines) width = std::max(width, gfx::FontRenderer::Instance().Measure(line, size));
+    for (const auto& line : lines) width = std::max(width, gfx::FontRenderer::Measure(line, size));
     const int height = static_cast<int>(lines.size()) * lineHeight - gfx::FontRenderer::LINE_GAP;
     if (pOutSize) *pOutSize = {width, height};
     if (!bShow) return static_cast<int>(lines.size());

@@ -10,7 +10,7 @@
 
 namespace {
 constexpr int DEFAULT_FONT_SIZE = 14;
-constexpr const char* DEFAULT_FONT_NAME = "DejaVu Sans";
+constexpr const char* DEFAULT_FONT_NAME = "Noto Sans Mono CJK SC";
 // Longest text drawn or measured at once; longer texts are cut.
 constexpr std::size_t MAX_TEXT_LENGTH = 64 * 1024;
 constexpr DWORD OPAQUE_ALPHA = 0xFF000000;
@@ -37,8 +37,7 @@ void DrawText(int x, int y, DWORD colour, const std::u32string& text, int size, 
               DWORD effectColour, SIZE* pOutSize) {
     size = gfx::FontRenderer::ClampSize(FontSizeOr(size));
     if (pOutSize) {
-        *pOutSize = {gfx::FontRenderer::Instance().Measure(text, size),
-                     gfx::FontRenderer::MeasureHeight(text, size)};
+        *pOutSize = {gfx::FontRenderer::Measure(text, size), gfx::FontRenderer::MeasureHeight(text, size)};
     }
     if (text.empty()) return;
     gfx::TextStyle textStyle;
@@ -64,11 +63,11 @@ void CMyBitmap::ShowString(int x, int y, DWORD dwColor, const char* szText, cons
 }
 
 int CMyBitmap::GetStringWidth(const char* szText, int nFontSize) {
-    return gfx::FontRenderer::Instance().Measure(FromUtf8(szText), FontSizeOr(nFontSize));
+    return gfx::FontRenderer::Measure(FromUtf8(szText), FontSizeOr(nFontSize));
 }
 
 int CMyBitmap::GetStringWidthW(const char16_t* szText, int nFontSize) {
-    return gfx::FontRenderer::Instance().Measure(FromUtf16(szText), FontSizeOr(nFontSize));
+    return gfx::FontRenderer::Measure(FromUtf16(szText), FontSizeOr(nFontSize));
 }
 
 int CMyBitmap::GetFontSize() {

@@ -119,23 +119,27 @@ void RasterCanvas::DrawTextRun(int x, int y, const std::u32string& text, int siz
             lineTop += size + FontRenderer::LINE_GAP;
             continue;
         }
+        // Each glyph starts at its own cell, whatever the face's advance, so runs and lines land where the
+        // layout put them.
+        const int cellX = penX;
+        penX += FontRenderer::CellWidth(c, size);
         const Glyph* glyph = font.GetGlyph(c, size);
-        if (!glyph) {
-            penX += size / 2;
-            continue;
+        if (!glyph) continue;
+        DrawGlyph(*glyph, cellX + glyph->left, lineTop + baselineOffset - glyph->top, colour, colourAlpha,
+                  antialias);
+    }
+}
+
+void RasterCanvas::DrawGlyph(const Glyph& glyph, int left, int top, DWORD colour, unsigned colourAlpha,
+                             bool antialias) {
+    const Rect box = Rect{left, top, glyph.width, glyph.rows}.Intersect(m_clip);
+    for (int row = box.y; row < box.Bottom(); ++row) {
+        const std::uint8_t* coverage = &glyph.coverage[static_cast<std::size_t>(row - top) * glyph.width];
+        for (int col = box.x; col < box.Right(); ++col) {
+            unsigned value = coverage[col - left];
+            if (!antialias) value = value >= HARD_EDGE_THRESHOLD ? FULL_ALPHA : 0;
+            BlendPixel(col, row, colour, Scale(value, colourAlpha));
         }
-        const int left = penX + glyph->left;
-        const int top = lineTop + baselineOffset - glyph->top;
-        const Rect box = Rect{left, top, glyph->width, glyph->rows}.Intersect(m_clip);
-        for (int row = box.y; row < box.Bottom(); ++row) {
-            for (int col = box.x; col < box.Right(); ++col) {
-                unsigned coverage =
-                    glyph->coverage[static_cast<std::size_t>(row - top) * glyph->width + (col - left)];
-                if (!antialias) coverage = coverage >= HARD_EDGE_THRESHOLD ? FULL_ALPHA : 0;
-                BlendPixel(col, row, colour, Scale(coverage, colourAlpha));
-            }
-        }
-        penX += glyph->advance;
     }
 }
 

@@ -11,6 +11,7 @@
 #include "LuDialog.h"
 #include "LuEdit.h"
 #include "LuGui_internal.h"
+#include "WindowClip.h"
 #include "hostlibs/HostEnv.h"
 
 namespace LuGui {
@@ -114,8 +115,13 @@ void CGuiMgr::KeepTopMostOnTop() {
 }
 
 void CGuiMgr::Show() {
-    for (CLuDialog* pDialog : m_vecDialogs)
-        if (pDialog->IsWindowVisible()) pDialog->Show();
+    for (CLuDialog* pDialog : m_vecDialogs) {
+        if (!pDialog->IsWindowVisible()) continue;
+        // A dialog draws its controls and then what it adds itself; all of it stays inside the dialog. Tips
+        // are the manager's and may cross dialogs.
+        const WindowClip clip(*pDialog);
+        pDialog->Show();
+    }
     DrawTips();
 }
 

@@ -13,6 +13,7 @@
 #include "LuGui.h"
 #include "LuGui_internal.h"
 #include "LuLayoutRecord.h"
+#include "WindowClip.h"
 
 namespace LuGui {
 
@@ -57,9 +58,13 @@ BOOL CLuDialog::PreInitData() {
 
 int CLuDialog::Show() {
     if (!m_bVisible || m_bHideState) return 0;
+    const WindowClip dialogClip(*this);
     ShowBackGround();
-    for (CLuCtrl* pCtrl : m_vecCtrls)
-        if (pCtrl->IsWindowVisible()) pCtrl->Show();
+    for (CLuCtrl* pCtrl : m_vecCtrls) {
+        if (!pCtrl->IsWindowVisible()) continue;
+        const WindowClip controlClip(*pCtrl);
+        pCtrl->Show();
+    }
     return 1;
 }
 

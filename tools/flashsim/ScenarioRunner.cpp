@@ -65,10 +65,12 @@ ScenarioRunner::ScenarioRunner(const RunOptions& options, Transcript& transcript
     host::SetClientDir(m_options.resDir);
     // Frames are drawn to pixels so that any of them can be written with "shot".
     host::UseCanvas(host::CanvasKind::Raster);
+    host::EnableDrawingCheck(m_options.checkDrawing);
     InstallLogSink();
 }
 
 ScenarioRunner::~ScenarioRunner() {
+    host::EnableDrawingCheck(false);
     host::SetLogSink({});
     g_pTranscript = nullptr;
 }
@@ -240,6 +242,16 @@ void ScenarioRunner::StepFrame(const ScenarioStep& step) {
         m_pSim->Process();
         host::BeginFrame();
         m_pSim->Show();
+        if (m_options.checkDrawing) ReportOverflows();
+    }
+}
+
+void ScenarioRunner::ReportOverflows() {
+    for (const host::DrawOverflow& overflow : host::GetDrawOverflows()) {
+        const std::string line = "! " + (overflow.clipped ? "" : std::string("drawn ")) + overflow.ToString();
+        if (!m_reportedOverflows.insert(line).second) continue;
+        m_transcript.Line(line);
+        if (!overflow.clipped) m_bFailed = true;
     }
 }
 

@@ -34,6 +34,19 @@ struct DrawOp {
     std::string ToString() const;
 };
 
+/// A text or picture that a window of the widget toolkit drew past its own rectangle.
+struct DrawOverflow {
+    DrawOp op;               ///< as drawn, at its full size
+    UINT dialog = 0;         ///< template id of the dialog the window belongs to
+    UINT control = 0;        ///< control id; 0 when the dialog drew it itself
+    RECT window{0, 0, 0, 0}; ///< the window's screen rectangle
+    bool clipped = false; ///< the clip cut it at the window's edge: nothing of it is seen outside the window
+
+    /// `cut at 1013.1014 412,244 260x28: text ...` when clipped, else `outside 1013.1014 ...: ...` (the
+    /// dialog alone when the dialog drew it; the operation as DrawOp::ToString gives it).
+    std::string ToString() const;
+};
+
 enum class CanvasKind { Recording, Raster };
 
 /// Makes a new canvas of that kind current (screen size, cleared); the previous canvas and its content are
@@ -51,6 +64,14 @@ std::vector<DrawOp> GetRecordedOps();
 std::size_t DroppedOpCount();
 /// The recorded operations, one ToString line each, every line ending in a newline.
 std::string DumpRecordedOps();
+
+/// The texts and pictures of this frame that reach past the window that drew them, in drawing order, as the
+/// recording canvas sees them: the current canvas when it records, else the check beside a raster canvas
+/// (EnableDrawingCheck); empty when neither records.
+std::vector<DrawOverflow> GetDrawOverflows();
+/// While on, every frame drawn on a raster canvas is also recorded, so that GetDrawOverflows reports on it
+/// (the reference host's drawing check). Off by default; it costs a recording per frame.
+void EnableDrawingCheck(bool bEnable);
 
 /// The raster frame as RGBA bytes, row by row (empty for a recording canvas); width and height are written.
 std::vector<std::uint8_t> GetRasterPixels(int& nWidth, int& nHeight);
