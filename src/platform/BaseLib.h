@@ -10,8 +10,7 @@
 #include "ZrString.h"
 #include "flashsim/Win32Types.h"
 
-// ---- safe conversions
-// ----------------------------------------------------------------------------------------------
+// ---- safe conversions ----------------------------------------------------------------------------
 
 /// Leading blanks, an optional sign and decimal digits ("12abc" reads 12); null or empty text reads 0; values
 /// beyond 32 bits saturate.
@@ -33,8 +32,7 @@ void ConverCodeToOnlyEnglish(char* szText, std::size_t nSize);
 /// UTF-8 (code page 65001) or Latin-1 (anything else) to UTF-16.
 std::u16string StringToWString(const char* sz, UINT nCodePage);
 
-// ---- files below the client directory
-// ------------------------------------------------------------------------------
+// ---- files below the client directory ------------------------------------------------------------
 
 /// An open file of the client directory (or, on the real client, of its packed archives).
 struct ZrFile;
@@ -48,8 +46,7 @@ std::string GetClientDirectory();
 /// Whether a file or folder exists (an absolute path, or one relative to the client directory).
 BOOL PathFileExistsA(const char* szPath);
 
-// ---- languages
-// ------------------------------------------------------------------------------------------------------
+// ---- languages -----------------------------------------------------------------------------------
 
 /// One language the client offers.
 struct SLanguageInfo {
@@ -74,8 +71,7 @@ private:
 };
 extern CMultiLanguage g_objMultiLang;
 
-// ---- time
-// -----------------------------------------------------------------------------------------------------------
+// ---- time ----------------------------------------------------------------------------------------
 
 /// Milliseconds of the host's clock (timeGetTime).
 DWORD TimeGet();
@@ -97,8 +93,7 @@ std::int64_t GetTimeFromIntervalMin(std::int64_t nMinutes);
 /// Last step reached by the per-frame calls, read by the host's crash dump.
 extern int g_nDumpStep;
 
-// ---- threads
-// --------------------------------------------------------------------------------------------------------
+// ---- threads -------------------------------------------------------------------------------------
 
 using LPTHREAD_START_ROUTINE = DWORD (*)(void* pParam);
 
@@ -116,8 +111,7 @@ DWORD WaitForSingleObject(HANDLE hHandle, DWORD dwMilliseconds);
 /// Releases a handle (joining a thread that has ended, detaching one that has not).
 BOOL CloseHandle(HANDLE hHandle);
 
-// ---- INI files
-// ------------------------------------------------------------------------------------------------------
+// ---- INI files -----------------------------------------------------------------------------------
 
 /// Reads a key of a section of an INI file below the client directory into szBuf (nSize bytes, truncated,
 /// always terminated); szDefault when the file, the section or the key is missing. Sections and keys match
@@ -131,15 +125,13 @@ extern const char* const g_pszIniGameSetup;
 /// Reads a key as a decimal integer (SafeAtoi); nDefault when it is missing.
 int MyGetPrivateProfileInt(const char* szSection, const char* szKey, int nDefault, const char* szFile);
 
-// ---- shell
-// ----------------------------------------------------------------------------------------------------------
+// ---- shell ---------------------------------------------------------------------------------------
 
 /// Opens a document or web address with the system's shell; returns a value above 32 on success.
 HINSTANCE ShellExecuteA(HWND hWnd, const char* szOperation, const char* szFile, const char* szParameters,
                         const char* szDirectory, int nShowCmd);
 
-// ---- sockets
-// --------------------------------------------------------------------------------------------------------
+// ---- sockets -------------------------------------------------------------------------------------
 
 struct WSADATA {
     WORD wVersion;

@@ -16,8 +16,7 @@
 
 namespace host {
 
-// ---- log sink
-// -------------------------------------------------------------------------------------------------------
+// ---- log sink ------------------------------------------------------------------------------------
 
 /// One line of any log: structured (INFO, WARN, ERROR), plain (MSG, DEBUG, LOCALERR, FAULT), or a
 /// host-library record of an outward effect (HOST: a dialog registered, a sound played, an address opened
@@ -43,8 +42,7 @@ void Count(std::string_view what);
 /// How many times Journal or Count was called with this name since the last reset.
 int JournalCount(std::string_view what);
 
-// ---- environment
-// ----------------------------------------------------------------------------------------------------
+// ---- environment ---------------------------------------------------------------------------------
 
 /// The client directory that relative file names resolve against (default: the process's current directory).
 void SetClientDir(const std::string& dir);
