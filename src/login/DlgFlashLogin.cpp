@@ -130,15 +130,19 @@ void CDlgFlashLogin::MessageMap() {
     PushMsgMap(WM_COMMAND, IDC_REMEMBER, &CDlgFlashLogin::OnRemember);
     PushMsgMap(WM_COMMAND, IDC_ACCOUNT_HELP, &CDlgFlashLogin::OnAccountHelp);
     for (const SLoginPage& page : LOGIN_PAGES) {
+        // The QR page's controls, unbound without the QR-login switch, get no handlers either.
+        if (page.nId == IDC_PHONE_SITE && !m_bQRLogin) continue;
         const char* szKey = page.szKey;
         PushMsgMap(WM_COMMAND, page.nId, MsgHandler([this, szKey] { OnOpenLoginPage(szKey); }));
     }
     PushMsgMap(WM_COMMAND, IDC_REGISTER, &CDlgFlashLogin::OnRegister);
     PushMsgMap(WM_COMMAND, IDC_RECORD_ENTRY, &CDlgFlashLogin::OnRecordEntry);
-    PushMsgMap(WM_COMMAND, IDC_PASSWORD_TAB, &CDlgFlashLogin::OnPasswordTab);
-    PushMsgMap(WM_COMMAND, IDC_QR_TAB, &CDlgFlashLogin::OnQRTab);
-    PushMsgMap(WM_COMMAND, IDC_QR_PICTURE, &CDlgFlashLogin::OnQRPicture);
-    PushMsgMap(WM_COMMAND, IDC_QR_REFRESH, &CDlgFlashLogin::OnQRRefresh);
+    if (m_bQRLogin) {
+        PushMsgMap(WM_COMMAND, IDC_PASSWORD_TAB, &CDlgFlashLogin::OnPasswordTab);
+        PushMsgMap(WM_COMMAND, IDC_QR_TAB, &CDlgFlashLogin::OnQRTab);
+        PushMsgMap(WM_COMMAND, IDC_QR_PICTURE, &CDlgFlashLogin::OnQRPicture);
+        PushMsgMap(WM_COMMAND, IDC_QR_REFRESH, &CDlgFlashLogin::OnQRRefresh);
+    }
     PushMsgMap(WM_COMMAND, IDC_WECHAT, &CDlgFlashLogin::OnWeChat);
     m_frame.MapHandlers();
     const std::pair<UINT, int> fields[] = {{IDC_ACCOUNT, INPUT_ACCOUNT},

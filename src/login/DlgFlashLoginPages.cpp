@@ -2,6 +2,7 @@
 // platform layouts, the quick entry and its tip, the texts, the QR picture and the account list's delete
 // mark.
 #include <initializer_list>
+#include <string_view>
 
 #include "login/DlgFlashLogin.h"
 #include "platform/GameData.h"
@@ -204,10 +205,15 @@ void CDlgFlashLogin::RefreshTexts() {
 }
 
 std::string CDlgFlashLogin::VersionLabelText(IScreenContext& context, const char* szVersion) {
-    const char* szFormat = context.GetStr(CScreenFrame::STR_VERSION_FORMAT);
-    // printf leaves a format without conversions as it is, braces included.
-    if (!CMyString::IsOldFormatStr(szFormat)) return szFormat;
-    return CMyString::Format(szFormat, szVersion ? szVersion : "");
+    const std::string_view format = context.GetStr(CScreenFrame::STR_VERSION_FORMAT);
+    if (CMyString::IsOldFormatStr(format)) return CMyString::Format(format, szVersion ? szVersion : "");
+    // printf leaves a format without conversions as it is, braces included, but for its "%%".
+    std::string text;
+    for (std::size_t i = 0; i < format.size(); ++i) {
+        text += format[i];
+        if (format[i] == '%' && i + 1 < format.size() && format[i + 1] == '%') ++i;
+    }
+    return text;
 }
 
 // ---- drawing -------------------------------------------------------------------------------------
