@@ -1,6 +1,6 @@
-// The classic login on a simulator: keyboard cells, masks and the picture's reload, the tabs and the QR
-// picture, presses that reach two handlers, the token-only and platform layouts, the host's fields and
-// version, the quick entry.
+// The classic login on a simulator: keyboard cells, masks and the picture's reload, the QR picture, presses
+// that reach two handlers, the token-only and platform layouts, the host's fields and version, the quick
+// entry (the keyboard's commands, the tabs and the switches are scenarios in tests/scenarios/login).
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -145,32 +145,6 @@ TEST(SoftKeyboard, CellsAreThirtyPixelsThirteenToARowAndNumberedFromOne) {
     EXPECT_EQ(keyboard.KeyAt(AREA, POINT{CELL_4_2_X, CELL_4_2_Y}), std::nullopt);
 }
 
-TEST_F(ClassicLoginTest, KeyboardSendsTheHoveredCellOnlyWhileThePasswordHasTheFocus) {
-    Start();
-    Set("VAR_SHOWSOFTKB", "1");
-    ASSERT_TRUE(Visible(CDlgFlashLogin::IDC_SOFTKEY_AREA));
-    Mouse(WM_MOUSEMOVE, CELL_4_2_X, CELL_4_2_Y);
-    Press(CELL_4_2_X, CELL_4_2_Y);
-    Command(CDlgFlashLogin::IDC_SOFTKEY_BACKSPACE);
-    EXPECT_TRUE(TakeCommands().empty()) << "no field has the focus";
-
-    Set("VAR_FOCUSTOFLASH", "2");
-    TakeCommands();
-    Press(CELL_4_2_X, CELL_4_2_Y);
-    Command(CDlgFlashLogin::IDC_SOFTKEY_BACKSPACE);
-    EXPECT_EQ(TakeCommands(), (std::vector<std::string>{"CMD_SOFTKEYDOWN 31", "CMD_SOFTKEYDOWN 0"}));
-    Mouse(WM_MOUSEMOVE, 20, 20); // off the keyboard: no cell any more
-    Press(CELL_4_2_X, CELL_4_2_Y);
-    EXPECT_TRUE(TakeCommands().empty());
-
-    Set("VAR_FOCUSTOFLASH", "1");
-    TakeCommands();
-    Mouse(WM_MOUSEMOVE, CELL_4_2_X, CELL_4_2_Y);
-    Press(CELL_4_2_X, CELL_4_2_Y);
-    Command(CDlgFlashLogin::IDC_SOFTKEY_BACKSPACE);
-    EXPECT_TRUE(TakeCommands().empty()) << "the account field has the focus";
-}
-
 TEST_F(ClassicLoginTest, KeyboardIsMaskedWithoutTheFocusAndHidesTheHoveredCellWithIt) {
     Start();
     Set("VAR_SHOWSOFTKB", "1");
@@ -226,39 +200,12 @@ TEST_F(ClassicLoginTest, PictureKeyIsFetchedFromTheSiteAndOnlyASuccessfulDownloa
     EXPECT_EQ(m_sources.m_urls.size(), 2u) << "no site, no download";
 }
 
-TEST_F(ClassicLoginTest, TheQRTabAsksForAKeyOnceAndThePasswordTabAlwaysStopsTheTimers) {
-    Start();
-    Command(CDlgFlashLogin::IDC_QR_TAB);
-    Command(CDlgFlashLogin::IDC_QR_TAB);
-    EXPECT_EQ(TakeCommands(), std::vector<std::string>{"REQUEST_QRKey "});
-    EXPECT_EQ(Classic().GetPage(), CDlgFlashLogin::PAGE_QR);
-    EXPECT_FALSE(Visible(CDlgFlashLogin::IDC_PASSWORD));
-    EXPECT_FALSE(Visible(CDlgFlashLogin::IDC_WECHAT));
-    EXPECT_TRUE(Visible(CDlgFlashLogin::IDC_QR_PICTURE));
-    Command(CDlgFlashLogin::IDC_PASSWORD_TAB);
-    Command(CDlgFlashLogin::IDC_PASSWORD_TAB);
-    EXPECT_EQ(TakeCommands(), (std::vector<std::string>{"KILL_All_TIMER ", "KILL_All_TIMER "}));
-    EXPECT_TRUE(Visible(CDlgFlashLogin::IDC_PASSWORD));
-    EXPECT_TRUE(Visible(CDlgFlashLogin::IDC_WECHAT));
-    EXPECT_FALSE(Visible(CDlgFlashLogin::IDC_QR_PICTURE));
-}
-
-TEST_F(ClassicLoginTest, SwitchesDecideWhichControlsAreBoundAndWhetherTheWeChatRowShows) {
+TEST_F(ClassicLoginTest, WithoutTheQRLoginSwitchAStrayTabCommandFindsNoHandler) {
     Start(false, false);
-    EXPECT_FALSE(Classic().IsQRLoginBound());
-    for (UINT nId : {CDlgFlashLogin::IDC_QR_TAB, CDlgFlashLogin::IDC_PASSWORD_TAB,
-                     CDlgFlashLogin::IDC_QR_PICTURE, CDlgFlashLogin::IDC_QR_REFRESH})
-        EXPECT_EQ(Ctrl(nId), nullptr) << nId;
-    ASSERT_NE(Ctrl(CDlgFlashLogin::IDC_WECHAT), nullptr);
-    EXPECT_FALSE(Visible(CDlgFlashLogin::IDC_WECHAT));
-    Command(CDlgFlashLogin::IDC_QR_TAB); // a stray command finds no handler: there is no QR page
+    Command(CDlgFlashLogin::IDC_QR_TAB);
     EXPECT_EQ(Classic().GetPage(), CDlgFlashLogin::PAGE_PASSWORD);
     EXPECT_TRUE(Visible(CDlgFlashLogin::IDC_PASSWORD));
     EXPECT_TRUE(TakeCommands().empty());
-    FlashSimDestroy();
-    Start(true, true);
-    EXPECT_NE(Ctrl(CDlgFlashLogin::IDC_QR_TAB), nullptr);
-    EXPECT_TRUE(Visible(CDlgFlashLogin::IDC_WECHAT));
 }
 
 TEST_F(ClassicLoginTest, APressOnTheExpiredCodeOrTheWeChatRowActsOnceThoughBothHandlersRun) {
