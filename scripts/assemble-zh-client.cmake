@@ -9,7 +9,14 @@ set(res "${SOURCE}/res")
 file(REMOVE_RECURSE "${OUT}")
 file(MAKE_DIRECTORY "${OUT}")
 file(COPY "${res}/" DESTINATION "${OUT}" PATTERN "zh" EXCLUDE)
-file(COPY "${res}/zh/" DESTINATION "${OUT}" PATTERN "layout-texts.txt" EXCLUDE)
+# NOTE: file(COPY) skips a file whose destination has the same time stamp, which a fresh checkout gives the
+# overlay and the file it replaces; each overlay file is therefore copied unconditionally.
+file(GLOB_RECURSE overlay RELATIVE "${res}/zh" "${res}/zh/*")
+foreach(name IN LISTS overlay)
+    if(NOT name STREQUAL "layout-texts.txt")
+        file(COPY_FILE "${res}/zh/${name}" "${OUT}/${name}")
+    endif()
+endforeach()
 
 file(READ "${OUT}/FlashGui.ini" layout)
 file(STRINGS "${res}/zh/layout-texts.txt" pairs ENCODING UTF-8)

@@ -48,6 +48,8 @@ public:
     }
     void SetEmbeddedBrowser(bool bOn) override { m_bEmbeddedBrowser = bOn; }
     bool IsEmbeddedBrowser() override { return m_bEmbeddedBrowser; }
+    bool IsQRLoginEnabled() override { return host::GetDataInt("gamedata.qrlogin", 0) != 0; }
+    bool IsWeChatLoginEnabled() override { return host::GetDataInt("gamedata.wechat", 0) != 0; }
 
 private:
     std::string m_strLanguage;

@@ -92,4 +92,11 @@ bool DescribeControl(UINT nDialog, UINT nControl, WindowState& out) {
     return true;
 }
 
+bool SendDialogMessage(UINT nDialog, UINT uMsg, WPARAM wParam, LPARAM lParam) {
+    LuGui::CLuDialog* pDialog = FindDialog(nDialog);
+    if (!pDialog) return false;
+    pDialog->WindowProc(uMsg, wParam, lParam);
+    return true;
+}
+
 } // namespace host

@@ -10,17 +10,8 @@
 #include "controls/SimEdit.h"
 #include "controls/SimList.h"
 #include "controls/SimStatic.h"
+#include "login/LoginInput.h"
 #include "screen/ScreenFrame.h"
-
-/// Input field numbers shared by the login dialogs and the host.
-enum ELoginInput {
-    INPUT_ACCOUNT = 1,
-    INPUT_PASSWORD = 2,
-    INPUT_PROTECT = 3,
-    INPUT_TOKEN = 4,
-    INPUT_WEIXIN_TOKEN = 5,
-    INPUT_WARD_TOKEN = 6,
-};
 
 class CDlgNewFlashLogin : public CSimDialog {
 public:

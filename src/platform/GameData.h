@@ -50,6 +50,10 @@ public:
     /// The switch that routes web pages to the embedded browser instead of the system's.
     virtual void SetEmbeddedBrowser(bool bOn) = 0;
     virtual bool IsEmbeddedBrowser() = 0;
+    /// The QR-login switch: the classic login offers its QR page and the tabs to it.
+    virtual bool IsQRLoginEnabled() = 0;
+    /// The WeChat switch: the classic login offers its external-login row.
+    virtual bool IsWeChatLoginEnabled() = 0;
 
 protected:
     ~IRoleDataEx() = default;

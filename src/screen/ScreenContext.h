@@ -62,6 +62,8 @@ public:
     virtual bool IsPlatformModeA() = 0;
     virtual bool IsPlatformModeB() const = 0;
     virtual bool IsTokenEnabled() const = 0;
+    /// The host's classic token-only flag: the classic login asks only for the security token.
+    virtual bool IsClassicTokenOnly() const = 0;
     /// While the registration page is open, the main login's handlers do nothing.
     virtual bool IsRegisterOpen() const = 0;
     virtual void SetRegisterOpen(bool bOpen) = 0;
@@ -104,6 +106,8 @@ public:
     virtual void ReplaceQuickEntry(const SQuickEntry& entry, int nReplaceIndex) = 0;
     /// The current selection as a record (1-based numbers, names from the lists).
     virtual void FillQuickEntry(SQuickEntry& entry) const = 0;
+    /// Adds a record and tells the host: 0 added, 1 already present, 2 the list is full (nothing changes).
+    virtual int AddQuickEntry(const SQuickEntry& entry) = 0;
     virtual int GetRecAccountCount() const = 0;
     virtual const char* GetRecAccount(int nIndex) const = 0;
 

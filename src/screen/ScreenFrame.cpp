@@ -83,7 +83,7 @@ void CScreenFrame::OnVersionChanged(const char* szVersion) {
 void CScreenFrame::SetVersionText(const char* szVersion) {
     IScreenContext* pContext = ScreenContext();
     if (!pContext || !szVersion || !*szVersion) return;
-    m_staVersion.SetWindowTextA(VersionLabelText(*pContext, szVersion).c_str());
+    m_staVersion.SetWindowTextA(m_pfnVersionText(*pContext, szVersion).c_str());
 }
 
 std::string CScreenFrame::VersionLabelText(IScreenContext& context, const char* szVersion) {

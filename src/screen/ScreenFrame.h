@@ -48,6 +48,11 @@ public:
     void SetBeforeBack(std::function<void()> beforeBack) { m_beforeBack = std::move(beforeBack); }
     /// String 3110000 filled with the version; nothing when there is no version.
     void SetVersionText(const char* szVersion);
+    /// How a screen fills string 3110000 with the version; null restores VersionLabelText.
+    using VersionFormatter = std::string (*)(IScreenContext& context, const char* szVersion);
+    void SetVersionFormatter(VersionFormatter pfnFormat) {
+        m_pfnVersionText = pfnFormat ? pfnFormat : &VersionLabelText;
+    }
 
     const CSimCheck& GetMusicCheck() const { return m_chkSound; }
     /// For screens whose own layouts move or hide the back and exit buttons.
@@ -72,6 +77,7 @@ private:
     IScreenContext* m_pSubscribedTo = nullptr;
     std::function<bool()> m_isLocked;
     std::function<void()> m_beforeBack;
+    VersionFormatter m_pfnVersionText = &VersionLabelText;
 
     CSimCheck m_chkSound;
     CSimButton m_btnBack;

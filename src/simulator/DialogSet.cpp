@@ -4,6 +4,9 @@
 
 #include <array>
 
+// The classic login opens the quick-entry editor by its template id, since screens do not know each other.
+static_assert(CDlgFlashLogin::IDD_QUICK_ENTRY_EDITOR == CDlgAddQuickEntry::IDD);
+
 std::array<CSimDialog*, CDialogSet::REGISTRATIONS> CDialogSet::RegistrationOrder() {
     // NOTE: the role-creation dialog is registered twice (fifth and tenth); the manager decides what that
     // means.

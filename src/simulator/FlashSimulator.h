@@ -76,6 +76,7 @@ public:
     void NotifyHost(const char* szCommand, const char* szArgument) override;
     bool IsPlatformModeB() const override { return m_state.m_bPlatformModeB; }
     bool IsTokenEnabled() const override { return m_state.m_bTokenEnabled; }
+    bool IsClassicTokenOnly() const override { return m_state.m_bClassicTokenOnly; }
     bool IsRegisterOpen() const override { return m_state.m_bRegisterOpen; }
     void SetRegisterOpen(bool bOpen) override { m_state.m_bRegisterOpen = bOpen; }
     int GetMainPathWidth() const override { return m_state.m_nMainPathWidth; }
@@ -104,6 +105,7 @@ public:
     void DeleteQuickEntry(int nIndex) override;
     void ReplaceQuickEntry(const SQuickEntry& entry, int nReplaceIndex) override;
     void FillQuickEntry(SQuickEntry& entry) const override;
+    int AddQuickEntry(const SQuickEntry& entry) override;
     int GetRecAccountCount() const override { return static_cast<int>(m_state.m_vecRecAccount.size()); }
     const char* GetRecAccount(int nIndex) const override;
     bool IsMusicOn() const override { return m_state.m_bMusicOn; }
@@ -117,7 +119,6 @@ public:
     void RemoveListener(IScreenListener* pListener) override;
 
     // ---- the simulator's own parts (variable protocol, scene driver, tests) -----------------------
-    int AddQuickEntry(const SQuickEntry& entry);
     void SetServer(int nServer, bool bOutside);
     bool IsGroupFirstLanguage() const;
     bool IsAchServer() const;

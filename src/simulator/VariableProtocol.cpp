@@ -117,9 +117,11 @@ void VarLoginPass(CFlashSimulator& sim, const char* szValue) {
 }
 
 void VarFocusToFlash(CFlashSimulator& sim, const char* szValue) {
-    // NOTE: the classic login takes the focus first once that dialog exists.
-    if (sim.Dialogs().m_dlgNewFlashLogin.IsWindowVisible())
-        sim.Dialogs().m_dlgNewFlashLogin.FocusInput(SafeAtoi(szValue));
+    CDialogSet& dialogs = sim.Dialogs();
+    if (dialogs.m_dlgFlashLogin.IsWindowVisible())
+        dialogs.m_dlgFlashLogin.FocusInput(SafeAtoi(szValue));
+    else if (dialogs.m_dlgNewFlashLogin.IsWindowVisible())
+        dialogs.m_dlgNewFlashLogin.FocusInput(SafeAtoi(szValue));
 }
 
 void VarPwdIncorrect(CFlashSimulator& sim, const char*) {
@@ -128,7 +130,15 @@ void VarPwdIncorrect(CFlashSimulator& sim, const char*) {
 
 void VarLogProtect(CFlashSimulator& sim, const char* szValue) {
     DebugMsg("logprotect : %s", szValue);
-    // NOTE: the classic login's field 3 takes the text once that dialog exists.
+    sim.Dialogs().m_dlgFlashLogin.SetInputText(szValue, INPUT_PROTECT);
+}
+
+void VarPicKey(CFlashSimulator& sim, const char* szValue) {
+    sim.Dialogs().m_dlgFlashLogin.SetPicKey(szValue);
+}
+
+void VarShowSoftKb(CFlashSimulator& sim, const char* szValue) {
+    sim.Dialogs().m_dlgFlashLogin.SetSoftKeyAllowed(!EqualsNoCase(szValue, "0"));
 }
 
 void VarSafeToken(CFlashSimulator& sim, const char* szValue) {
@@ -430,8 +440,8 @@ struct VariableTables {
             {"var_setrecaccount", &VarSetRecAccount},
             {"var_quick_record", &VarQuickRecord},
             {"var_serverstatus", &VarServerStatus},
-            {"var_pickey", &VarDialogPending},
-            {"var_showsoftkb", &VarDialogPending},
+            {"var_pickey", &VarPicKey},
+            {"var_showsoftkb", &VarShowSoftKb},
             {"var_musicswitch", &VarMusicSwitch},
             {"var_music", &VarMusic},
             {"setloginerror", &VarLoginError},

@@ -24,6 +24,15 @@
 namespace {
 Transcript* g_pTranscript = nullptr;
 
+// The host's answers: variables it sets inside its primary callback when a command arrives ("answer").
+struct SAnswer {
+    std::string command;
+    std::string name;
+    std::string value;
+};
+std::vector<SAnswer> g_answers;
+IFlashSimulator* g_pAnsweringSim = nullptr;
+
 void PrintCommand(const char* prefix, const char* szCommand, const char* szArgument) {
     if (!g_pTranscript) return;
     g_pTranscript->Line(std::string(prefix) + " " + EscapeText(szCommand ? szCommand : "") + " \"" +
@@ -32,6 +41,13 @@ void PrintCommand(const char* prefix, const char* szCommand, const char* szArgum
 
 void OnPrimaryCommand(const char* szCommand, const char* szArgument) {
     PrintCommand(">", szCommand, szArgument);
+    if (!g_pAnsweringSim || !szCommand) return;
+    // NOTE: answers re-enter the simulator from inside the command, as a host that answers at once does; a
+    // copy is walked since an answer may send further commands.
+    const std::vector<SAnswer> answers = g_answers;
+    for (const SAnswer& answer : answers)
+        if (answer.command == szCommand)
+            g_pAnsweringSim->SetVariable(answer.name.c_str(), answer.value.c_str());
 }
 void OnSecondaryCommand(const char* szCommand, const char* szArgument) {
     PrintCommand(">>", szCommand, szArgument);
@@ -73,6 +89,8 @@ ScenarioRunner::~ScenarioRunner() {
     host::EnableDrawingCheck(false);
     host::SetLogSink({});
     g_pTranscript = nullptr;
+    g_answers.clear();
+    g_pAnsweringSim = nullptr;
 }
 
 void ScenarioRunner::InstallLogSink() {
@@ -110,6 +128,7 @@ std::optional<long long> ScenarioRunner::Number(const ScenarioStep& step, std::s
 bool ScenarioRunner::RequireSimulator(const ScenarioStep& step) {
     // Like a game client, any step that needs the simulator obtains it first; only "create" calls Create.
     if (!m_pSim) m_pSim = m_library.Query();
+    g_pAnsweringSim = m_pSim;
     if (m_pSim) return true;
     Fail(step, "FlashSimulatorQuery returned null");
     return false;
@@ -137,6 +156,8 @@ void ScenarioRunner::Execute(const ScenarioStep& step) {
     if (name == "char") return StepChar(step);
     if (name == "key") return StepKey(step);
     if (name == "show") return StepShow(step);
+    if (name == "send") return StepSend(step);
+    if (name == "answer") return StepAnswer(step);
     Fail(step, "unknown step \"" + EscapeText(name) + "\"");
 }
 
@@ -299,6 +320,7 @@ void ScenarioRunner::StepDestroy(const ScenarioStep& step) {
     if (step.words.size() != 1) return Fail(step, "destroy takes nothing");
     m_library.Destroy();
     m_pSim = nullptr;
+    g_pAnsweringSim = nullptr;
 }
 
 void ScenarioRunner::StepShot(const ScenarioStep& step) {
@@ -459,4 +481,24 @@ void ScenarioRunner::StepShow(const ScenarioStep& step) {
     if (state.kind == "Button" && state.bg == CHECKED_LOOK) state.checked = true;
     const std::string name = step.words[1] + (bControl ? "." + step.words[2] : std::string());
     m_transcript.Line("= " + name + " " + state.Describe());
+}
+
+void ScenarioRunner::StepSend(const ScenarioStep& step) {
+    constexpr const char* USAGE = "send takes DIALOG MSG WPARAM LPARAM";
+    if (step.words.size() != 5) return Fail(step, USAGE);
+    const auto nDialog = Number(step, 1, 0, UINT32_HIGH, USAGE);
+    const auto uMsg = nDialog ? Number(step, 2, 0, UINT32_HIGH, USAGE) : std::nullopt;
+    const auto wParam = uMsg ? Number(step, 3, 0, UINT32_HIGH, USAGE) : std::nullopt;
+    const auto lParam = wParam ? Number(step, 4, INT32_LOW, INT32_HIGH, USAGE) : std::nullopt;
+    if (!lParam || !RequireSimulator(step)) return;
+    if (!host::SendDialogMessage(static_cast<UINT>(*nDialog), static_cast<UINT>(*uMsg),
+                                 static_cast<WPARAM>(*wParam), static_cast<LPARAM>(*lParam)))
+        m_transcript.Line("! no such dialog");
+}
+
+void ScenarioRunner::StepAnswer(const ScenarioStep& step) {
+    if (step.words.size() < 3) return Fail(step, "answer takes COMMAND NAME [VALUE]");
+    if (!RequireSimulator(step)) return;
+    g_answers.push_back(SAnswer{UnescapeValue(step.words[1]), UnescapeValue(step.words[2]),
+                                step.words.size() > 3 ? UnescapeValue(step.RestAfter(3)) : std::string()});
 }

@@ -56,6 +56,8 @@ private:
     void StepChar(const ScenarioStep& step);
     void StepKey(const ScenarioStep& step);
     void StepShow(const ScenarioStep& step);
+    void StepSend(const ScenarioStep& step);
+    void StepAnswer(const ScenarioStep& step);
 
     /// Sends one window message as the game client's window does: PreTranslateMessage, then WindowProc.
     void SendToWindow(UINT uMsg, WPARAM wParam, LPARAM lParam, bool bPreTranslate);

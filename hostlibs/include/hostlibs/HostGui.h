@@ -34,5 +34,8 @@ struct WindowState {
 bool DescribeDialog(UINT nDialog, WindowState& out);
 /// Describes control nControl of dialog nDialog; false when either does not exist.
 bool DescribeControl(UINT nDialog, UINT nControl, WindowState& out);
+/// Delivers a window message to dialog nDialog's WindowProc at once, as a message posted to that dialog
+/// reaches it (the keyboard picture's download posts 12135); false when there is no such dialog.
+bool SendDialogMessage(UINT nDialog, UINT uMsg, WPARAM wParam, LPARAM lParam);
 
 } // namespace host
