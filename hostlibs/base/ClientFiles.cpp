@@ -77,3 +77,8 @@ void Safefclose(ZrFile* pFile) {
     std::fclose(pFile->fp);
     delete pFile;
 }
+
+std::size_t Safefwrite(const void* pData, std::size_t nSize, std::size_t nCount, ZrFile* pFile) {
+    if (!pData || !pFile) return 0;
+    return std::fwrite(pData, nSize, nCount, pFile->fp);
+}

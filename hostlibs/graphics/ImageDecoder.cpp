@@ -23,6 +23,8 @@ std::optional<Image> ImageDecoder::Decode(const std::vector<std::uint8_t>& bytes
     const int length = static_cast<int>(bytes.size());
     int width = 0, height = 0, channels = 0;
     if (!stbi_info_from_memory(data, length, &width, &height, &channels)) return std::nullopt;
+    // NOTE: stb reports a top-down bitmap's height as stored, negative; the picture itself loads upright.
+    if (height < 0 && height != INT_MIN) height = -height;
     if (width <= 0 || height <= 0 || width > kMaxSide || height > kMaxSide) return std::nullopt;
     constexpr int kRgba = 4;
     stbi_uc* pixels = stbi_load_from_memory(data, length, &width, &height, &channels, kRgba);

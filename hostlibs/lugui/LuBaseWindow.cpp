@@ -12,6 +12,7 @@
 #include "LuDialog.h"
 #include "LuGui.h"
 #include "LuLayoutRecord.h"
+#include "PostedMessages.h"
 
 namespace LuGui {
 
@@ -26,6 +27,7 @@ CLuBaseWindow::CLuBaseWindow() : m_strBgAniFile(CONTROL_ANI_FILE) {
 }
 
 CLuBaseWindow::~CLuBaseWindow() {
+    CPostedMessages::Drop(this);
     SetBgEffect(nullptr);
     SetFgEffect(nullptr);
 }

@@ -35,4 +35,8 @@ HOSTLIB_API bool DescribeDialog(UINT nDialog, WindowState& out);
 /// Describes control nControl of dialog nDialog; false when either does not exist.
 HOSTLIB_API bool DescribeControl(UINT nDialog, UINT nControl, WindowState& out);
 
+/// Blocks until a message posted to a window (CLuBaseWindow::PostMessageA, from any thread) waits for the
+/// dialog manager's next Process, or until the time is up; true when one waits. A host's message loop.
+HOSTLIB_API bool WaitForPostedMessage(DWORD dwMilliseconds);
+
 } // namespace host
