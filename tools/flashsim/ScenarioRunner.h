@@ -54,6 +54,7 @@ private:
     void StepChar(const ScenarioStep& step);
     void StepKey(const ScenarioStep& step);
     void StepShow(const ScenarioStep& step);
+    void StepScratch(const ScenarioStep& step);
 
     /// Sends one window message as the game client's window does: PreTranslateMessage, then WindowProc.
     void SendToWindow(UINT uMsg, WPARAM wParam, LPARAM lParam, bool bPreTranslate);
@@ -69,4 +70,6 @@ private:
     enum class ELogMode { Off, On, Strict };
     ELogMode m_eLog = ELogMode::Off;
     bool m_bFailed = false;
+    /// The scratch copy of the client directory made by "scratch", removed when the run ends.
+    std::string m_strScratchDir;
 };
