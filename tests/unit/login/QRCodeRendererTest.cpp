@@ -125,7 +125,10 @@ TEST_F(QRCodeRendererTest, EveryFailureLogsOneLineAndKeepsTheFileAndTheBitmap) {
     EXPECT_FALSE(m_renderer.Render(std::string(3000, 'a').c_str(), CQRCodeRenderer::SCALE));
     expectKept("QRCodeEncode Failed");
     EXPECT_FALSE(m_renderer.Render("", CQRCodeRenderer::SCALE));
-    EXPECT_EQ(testlog::Count("ERROR", "QRCodeEncode Failed"), 2);
+    std::string huge(1 << 20, '\x80'); // any bytes, any length
+    huge[7] = '\xFF';
+    EXPECT_FALSE(m_renderer.Render(huge.c_str(), CQRCodeRenderer::SCALE));
+    EXPECT_EQ(testlog::Count("ERROR", "QRCodeEncode Failed"), 3);
 
     testlog::Expect("ERROR", "out of memory");
     m_renderer.SetPixelAllocator(&NoMemory);
