@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <thread>
 
 #include "DownloadTarget.h"
 #include "LoopbackHttpServer.h"
@@ -25,6 +26,16 @@ protected:
         DownloadFixture::SetUp();
         ::setenv("no_proxy", "127.0.0.1", 1); // a proxy of the machine must not see the test's requests
     }
+    /// Waits (at most ten seconds) until a worker has created the picture file.
+    bool WaitUntilCreated() const {
+        const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+        while (!std::filesystem::exists(m_dir.Path() / CHttpImgDown::FILE_NAME)) {
+            if (std::chrono::steady_clock::now() > deadline) return false;
+            std::this_thread::yield();
+        }
+        return true;
+    }
+
     LoopbackHttpServer m_server;
 };
 
@@ -108,6 +119,7 @@ TEST_F(HttpImgDownCurlTest, ASecondWorkerFindingTheFileOpenFailsAtCreate) {
     CHttpImgDown downloader;
     downloader.Start(&m_target, m_server.Url().c_str());
     ASSERT_TRUE(m_server.WaitUntilHolding());
+    ASSERT_TRUE(WaitUntilCreated()); // the first worker holds the file from here on
     downloader.Start(&m_target, m_server.Url().c_str());
     WaitForResults(1);
     EXPECT_EQ(m_target.results, std::vector<int>{0});
