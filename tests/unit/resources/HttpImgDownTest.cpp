@@ -132,6 +132,14 @@ TEST_F(HttpImgDownTest, EachFailingStepClosesWhatIsOpenAndReportsFailure) {
     }
 }
 
+TEST_F(HttpImgDownTest, AnEmptyBodyLeavesAnEmptyFileAndSucceeds) {
+    FakeTransport transport;
+    EXPECT_EQ(Run(transport, "http://k"), std::vector<int>{1});
+    EXPECT_EQ(transport.Calls(), (std::vector<std::string>{"session MyAgent 0", "url http://k reload",
+                                                           "create data/softkey.jpg 1011", "close file",
+                                                           "close url", "close session"}));
+}
+
 TEST_F(HttpImgDownTest, AReadErrorEndsTheDownloadLikeItsEnd) {
     FakeTransport transport;
     transport.fail = FakeTransport::EFail::Read;
