@@ -88,11 +88,6 @@ BOOL SetThreadPriority(HANDLE hThread, int nPriority) {
     return TRUE;
 }
 
-int GetThreadPriority(HANDLE hThread) {
-    const ThreadHandle* h = AsThread(hThread);
-    return h ? h->nPriority : THREAD_PRIORITY_NORMAL;
-}
-
 DWORD WaitForSingleObject(HANDLE hHandle, DWORD dwMilliseconds) {
     ThreadHandle* h = AsThread(hHandle);
     if (!h) return WAIT_OBJECT_0;

@@ -21,7 +21,6 @@ public:
     void SetQRStatus(int nStatus) { m_nQRStatus = nStatus; }
     int GetQRStatus() const { return m_nQRStatus; }
     CMyBitmap* GetQRBitmap() const { return m_qrRenderer.GetBitmap(); }
-    CQRCodeRenderer& GetQRRenderer() { return m_qrRenderer; }
 
 private:
     int m_nQRStatus = 0;

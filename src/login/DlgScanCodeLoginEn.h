@@ -61,7 +61,6 @@ public:
     void SetQRStatus(int nStatus) { m_nQRStatus = nStatus; }
     int GetQRStatus() const { return m_nQRStatus; }
     CMyBitmap* GetQRBitmap() const { return m_renderer.GetBitmap(); }
-    CQRCodeRenderer& GetRenderer() { return m_renderer; }
     POINT GetPos() const { return POINT{m_nPosX, m_nPosY}; }
 
 private:

@@ -125,7 +125,6 @@ inline constexpr int THREAD_PRIORITY_NORMAL = 0;
 inline constexpr int THREAD_PRIORITY_ABOVE_NORMAL = 1;
 /// Records a thread's priority (on this platform threads all run at the process's priority).
 HOSTLIB_API BOOL SetThreadPriority(HANDLE hThread, int nPriority);
-HOSTLIB_API int GetThreadPriority(HANDLE hThread);
 inline constexpr DWORD INFINITE = 0xFFFFFFFFu;
 inline constexpr DWORD WAIT_OBJECT_0 = 0;
 inline constexpr DWORD WAIT_TIMEOUT = 258;
