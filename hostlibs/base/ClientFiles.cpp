@@ -1,81 +1,69 @@
-// File access below the client directory: relative names, either slash, file names matched without regard to
-// case.
-#include <dirent.h>
-#include <strings.h>
-#include <sys/stat.h>
-
+// File access below the client directory: relative names, either slash, names matched without regard to case,
+// and the text mode of the client's C library.
 #include <cstdio>
 #include <cstring>
 #include <string>
 
 #include "BaseLib.h"
+#include "text/ClientPath.h"
 
 struct ZrFile {
     std::FILE* fp;
+    bool bText; ///< "\r\n" reads as "\n", as the Windows C library's text mode does
 };
 
 namespace {
-bool Exists(const std::string& path) {
-    struct stat st {};
-    return ::stat(path.c_str(), &st) == 0;
+bool IsTextMode(const char* szMode) {
+    return std::strchr(szMode, 'b') == nullptr;
 }
 
-// Finds the entry of dir whose name equals name without regard to case; empty when there is none.
-std::string FindEntryIgnoringCase(const std::string& dir, const std::string& name) {
-    DIR* d = ::opendir(dir.c_str());
-    if (!d) return {};
-    std::string found;
-    while (const dirent* e = ::readdir(d)) {
-        if (::strcasecmp(e->d_name, name.c_str()) == 0) {
-            found = e->d_name;
-            break;
-        }
-    }
-    ::closedir(d);
-    return found;
+bool IsWriteMode(const char* szMode) {
+    return std::strpbrk(szMode, "wa") != nullptr;
 }
 
-// The client's files are named as on Windows; resolve each component case-insensitively when the exact name
-// is absent.
-std::string ResolveClientPath(const char* szPath) {
-    std::string rel(szPath);
-    for (char& c : rel)
-        if (c == '\\') c = '/';
-    if (!rel.empty() && rel[0] == '/') return rel;
-    std::string path = GetClientDirectory();
-    std::size_t start = 0;
-    while (start <= rel.size()) {
-        std::size_t end = rel.find('/', start);
-        if (end == std::string::npos) end = rel.size();
-        const std::string part = rel.substr(start, end - start);
-        start = end + 1;
-        if (part.empty() || part == ".") continue;
-        std::string next = path + "/" + part;
-        if (!Exists(next)) {
-            const std::string entry = FindEntryIgnoringCase(path, part);
-            if (!entry.empty()) next = path + "/" + entry;
-        }
-        path = std::move(next);
+// fgets with the text mode's translation: a "\r" directly before "\n" reads as that "\n", any other "\r"
+// stays. NOTE: fgets stops at the first "\n", so a translated pair can only end the piece read, or be split
+// by the buffer's end; the line then holds what the translated stream would have put into the same buffer.
+char* TextModeGets(char* szBuf, int nSize, std::FILE* fp) {
+    if (!std::fgets(szBuf, nSize, fp)) return nullptr;
+    const std::size_t n = std::strlen(szBuf);
+    if (n >= 2 && szBuf[n - 2] == '\r' && szBuf[n - 1] == '\n') {
+        szBuf[n - 2] = '\n';
+        szBuf[n - 1] = '\0';
+    } else if (n >= 1 && szBuf[n - 1] == '\r') {
+        const int next = std::getc(fp);
+        if (next == '\n')
+            szBuf[n - 1] = '\n';
+        else if (next != EOF)
+            std::ungetc(next, fp);
     }
-    return path;
+    return szBuf;
 }
 } // namespace
 
 ZrFile* Safefopen(const char* szPath, const char* szMode) {
     if (!szPath || !*szPath || !szMode) return nullptr;
-    std::FILE* fp = std::fopen(ResolveClientPath(szPath).c_str(), szMode);
-    return fp ? new ZrFile{fp} : nullptr;
+    const std::string path = txt::ClientPath::Resolve(szPath, IsWriteMode(szMode) ? txt::ClientEntry::NewFile
+                                                                                  : txt::ClientEntry::File);
+    if (path.empty()) return nullptr;
+    std::FILE* fp = std::fopen(path.c_str(), szMode);
+    return fp ? new ZrFile{fp, IsTextMode(szMode)} : nullptr;
 }
 
 char* Safefgets(char* szBuf, int nSize, ZrFile* pFile) {
     if (!szBuf || nSize <= 0 || !pFile) return nullptr;
-    return std::fgets(szBuf, nSize, pFile->fp);
+    return pFile->bText ? TextModeGets(szBuf, nSize, pFile->fp) : std::fgets(szBuf, nSize, pFile->fp);
 }
 
 void Safefclose(ZrFile* pFile) {
     if (!pFile) return;
     std::fclose(pFile->fp);
     delete pFile;
+}
+
+BOOL PathFileExistsA(const char* szPath) {
+    if (!szPath || !*szPath) return FALSE;
+    return txt::ClientPath::Resolve(szPath, txt::ClientEntry::Any).empty() ? FALSE : TRUE;
 }
 
 std::size_t Safefwrite(const void* pData, std::size_t nSize, std::size_t nCount, ZrFile* pFile) {

@@ -7,19 +7,14 @@
 #include <cstring>
 
 #include "BaseLib.h"
+#include "text/Utf8.h"
 
 namespace {
 bool IsBlank(char c) {
     return c == ' ' || c == '\t' || c == '\r' || c == '\n' || c == '\v' || c == '\f';
 }
 
-// Length of the UTF-8 sequence a lead byte starts (1 for bytes that start none).
-std::size_t Utf8SequenceLength(unsigned char c) {
-    if (c >= 0xF0 && c <= 0xF4) return 4;
-    if (c >= 0xE0) return c <= 0xEF ? 3 : 1;
-    if (c >= 0xC2) return 2;
-    return 1;
-}
+constexpr UINT CODE_PAGE_UTF8 = 65001;
 } // namespace
 
 int SafeAtoi(const char* sz) {
@@ -90,7 +85,7 @@ void Split(std::vector<CZrString>& vecOut, const char* szText, const char* szSep
         vecOut.emplace_back(text);
         return;
     }
-    const bool utf8 = nCodePage == 65001;
+    const bool utf8 = nCodePage == CODE_PAGE_UTF8;
     std::size_t start = 0;
     std::size_t i = 0;
     while (i < text.size()) {
@@ -102,63 +97,33 @@ void Split(std::vector<CZrString>& vecOut, const char* szText, const char* szSep
         }
         // NOTE: in UTF-8 a separator byte can never sit inside a sequence, but skipping whole sequences keeps
         // the split correct for multi-byte separators too.
-        i += utf8 ? Utf8SequenceLength(static_cast<unsigned char>(text[i])) : 1;
+        i += utf8 ? txt::Utf8::SequenceLength(text, i) : 1;
     }
     vecOut.emplace_back(text.substr(start));
 }
 
 std::u16string StringToWString(const char* sz, UINT nCodePage) {
+    if (!sz) return {};
+    if (nCodePage == CODE_PAGE_UTF8) return txt::Utf8::ToUtf16(sz);
     std::u16string out;
-    if (!sz) return out;
-    const auto* p = reinterpret_cast<const unsigned char*>(sz);
-    if (nCodePage != 65001) {
-        for (; *p; ++p) out.push_back(static_cast<char16_t>(*p));
-        return out;
-    }
-    while (*p) {
-        const std::size_t len = Utf8SequenceLength(*p);
-        char32_t cp = *p;
-        bool valid = len == 1 ? *p < 0x80 : true;
-        if (len > 1) {
-            cp = *p & (0xFF >> (len + 1));
-            for (std::size_t k = 1; k < len; ++k) {
-                if ((p[k] & 0xC0) != 0x80) {
-                    valid = false;
-                    break;
-                }
-                cp = (cp << 6) | (p[k] & 0x3F);
-            }
-        }
-        if (!valid) {
-            out.push_back(u'\uFFFD');
-            ++p;
-            continue;
-        }
-        p += len;
-        if (cp >= 0x10000) {
-            cp -= 0x10000;
-            out.push_back(static_cast<char16_t>(0xD800 + (cp >> 10)));
-            out.push_back(static_cast<char16_t>(0xDC00 + (cp & 0x3FF)));
-        } else {
-            out.push_back(static_cast<char16_t>(cp));
-        }
-    }
+    for (const auto* p = reinterpret_cast<const unsigned char*>(sz); *p; ++p)
+        out.push_back(static_cast<char16_t>(*p));
     return out;
 }
 
 void ConverCodeToOnlyEnglish(char* szText, std::size_t nSize) {
     if (!szText || nSize == 0) return;
+    // NOTE: the text is rewritten in place behind the reading position, which never passes what it reads.
+    const std::string_view text(szText, strnlen(szText, nSize));
     std::size_t out = 0;
-    for (std::size_t in = 0; in < nSize && szText[in] != '\0';) {
-        const auto c = static_cast<unsigned char>(szText[in]);
+    for (std::size_t in = 0; in < text.size();) {
+        const auto c = static_cast<unsigned char>(text[in]);
         if (c >= 0x20 && c < 0x7F) {
             szText[out++] = szText[in++];
             continue;
         }
-        std::size_t len = Utf8SequenceLength(c);
-        for (std::size_t k = 1; k < len; ++k)
-            if (in + k >= nSize || (static_cast<unsigned char>(szText[in + k]) & 0xC0) != 0x80) len = k;
-        in += len;
+        // A character cut short by the buffer's end still counts once.
+        in += txt::Utf8::SequenceLength(text, in, txt::Utf8Broken::PerSubpart);
         szText[out++] = c == '\n' ? '\n' : '?';
     }
     szText[out < nSize ? out : nSize - 1] = '\0';

@@ -76,14 +76,14 @@ void ResetForTest() {
     {
         std::lock_guard lock(Env().mutex);
         Env().clientDir.clear();
-        Env().localTime = detail::Environment::kStartTime;
+        Env().localTime = detail::Environment::START_TIME;
         Env().screenWidth = 1024;
         Env().screenHeight = 768;
         Env().data.clear();
         Env().cursor = 0;
         std::fill(std::begin(Env().keysDown), std::end(Env().keysDown), std::uint8_t{0});
     }
-    Env().clockMs = detail::Environment::kStartClockMs;
+    Env().clockMs = detail::Environment::START_CLOCK_MS;
     g_nDumpStep = 0;
     ResetJournalCounts();
 }

@@ -15,8 +15,8 @@ struct Environment {
     std::mutex mutex; // the player-list worker reads the directory and data from its own thread
     std::string clientDir;
     std::atomic<unsigned> clientDirVersion{0}; ///< changes with every SetClientDir, for caches keyed by it
-    std::atomic<DWORD> clockMs{kStartClockMs};
-    SLocalTime localTime{kStartTime};
+    std::atomic<DWORD> clockMs{START_CLOCK_MS};
+    SLocalTime localTime{START_TIME};
     int screenWidth = 1024;
     int screenHeight = 768;
     std::map<std::string, std::string> data;
@@ -24,8 +24,8 @@ struct Environment {
         0}; ///< x in the low 32 bits, y in the high ones: read by every control each frame
     std::uint8_t keysDown[256] = {}; // one flag per virtual key
 
-    static constexpr DWORD kStartClockMs = 100000;
-    static constexpr SLocalTime kStartTime{2026, 1, 1, 12, 0, 0};
+    static constexpr DWORD START_CLOCK_MS = 100000;
+    static constexpr SLocalTime START_TIME{2026, 1, 1, 12, 0, 0};
 };
 
 Environment& Env();

@@ -1,6 +1,4 @@
 // The client's language table, from host data ("languages", "language.index"); a language change is recorded.
-#include <filesystem>
-
 #include "BaseLib.h"
 #include "hostlibs/HostEnv.h"
 
@@ -39,12 +37,4 @@ void CMultiLanguage::SetInfo(const SLanguageInfo* pInfo) {
     host::SetData("language.index", std::to_string(pInfo->nIndex));
     host::Journal("base.language",
                   {{"index", std::to_string(pInfo->nIndex)}, {"name", pInfo->strName.c_str()}});
-}
-
-BOOL PathFileExistsA(const char* szPath) {
-    if (!szPath || !*szPath) return FALSE;
-    std::filesystem::path path(szPath);
-    if (path.is_relative()) path = std::filesystem::path(GetClientDirectory()) / path;
-    std::error_code ec;
-    return std::filesystem::exists(path, ec) ? TRUE : FALSE;
 }

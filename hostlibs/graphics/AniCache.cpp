@@ -3,30 +3,15 @@
 
 #include "base/HostEnvironment.h"
 
-#include <algorithm>
-#include <fstream>
-#include <sstream>
-
 #include "AniHandle.h"
-#include "ClientPath.h"
 #include "ImageDecoder.h"
 #include "Log.h"
+#include "text/ClientPath.h"
+#include "text/IniDocument.h"
 
 namespace gfx {
 namespace {
-constexpr std::size_t kMaxIndexBytes = 16u * 1024u * 1024u;
-constexpr std::size_t kMaxWarningsLogged = 20;
-
-std::optional<std::string> ReadText(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    if (!in) return std::nullopt;
-    // Read in pieces up to the cap: a cap-sized buffer per file would cost more than the parse.
-    std::string text;
-    char buf[16384];
-    while (text.size() < kMaxIndexBytes && in.read(buf, sizeof buf).gcount() > 0)
-        text.append(buf, std::min(static_cast<std::size_t>(in.gcount()), kMaxIndexBytes - text.size()));
-    return text;
-}
+constexpr std::size_t MAX_WARNINGS_LOGGED = 20;
 } // namespace
 
 AniCache& AniCache::Instance() {
@@ -37,19 +22,23 @@ AniCache& AniCache::Instance() {
 AniCache::~AniCache() = default;
 
 std::string AniCache::Key(std::string_view name) {
-    return GetClientDirectory() + '\n' + ClientPath::NormalKey(name);
+    return GetClientDirectory() + '\n' + txt::ClientPath::NormalKey(name);
 }
 
 std::shared_ptr<const AniIndex> AniCache::LoadIndex(std::string_view file) {
-    const std::string path = ClientPath::Resolve(file);
-    if (path.empty()) return nullptr;
-    const auto text = ReadText(path);
-    if (!text) return nullptr;
-    auto index = std::make_shared<AniIndex>(AniIndexParser::Parse(*text));
     const std::string name(file);
-    for (std::size_t i = 0; i < index->warnings.size() && i < kMaxWarningsLogged; ++i) {
-        LogMsg("animation index %s, %s", name.c_str(), index->warnings[i].c_str());
+    const auto text = txt::IniDocument::ReadClientFile(file);
+    if (!text) {
+        LogMsg("animation index %s missing", name.c_str());
+        return nullptr;
     }
+    auto index = std::make_shared<AniIndex>(AniIndexParser::Parse(*text));
+    const std::vector<std::string>& warnings = index->warnings;
+    for (std::size_t i = 0; i < warnings.size() && i < MAX_WARNINGS_LOGGED; ++i)
+        LogMsg("animation index %s, %s", name.c_str(), warnings[i].c_str());
+    if (warnings.size() > MAX_WARNINGS_LOGGED)
+        LogMsg("animation index %s, %zu more problems not listed", name.c_str(),
+               warnings.size() - MAX_WARNINGS_LOGGED);
     return index;
 }
 
@@ -65,11 +54,8 @@ std::shared_ptr<const Image> AniCache::Picture(std::string_view path) {
     std::lock_guard lock(m_mutex);
     if (auto it = m_pictures.find(key); it != m_pictures.end()) return it->second;
     std::shared_ptr<const Image> picture;
-    const std::string resolved = ClientPath::Resolve(path);
-    if (!resolved.empty()) {
-        if (auto image = ImageDecoder::DecodeFile(resolved))
-            picture = std::make_shared<const Image>(std::move(*image));
-    }
+    if (auto image = ImageDecoder::DecodeClientFile(path))
+        picture = std::make_shared<const Image>(std::move(*image));
     return m_pictures.emplace(key, std::move(picture)).first->second;
 }
 

@@ -9,11 +9,11 @@
 
 namespace gfx {
 namespace {
-constexpr float kMaxScale = 64.0f;
+constexpr float MAX_SCALE = 64.0f;
 
 int ScaledLength(int length, float scale) {
     if (!(scale > 0.0f)) return 0; // also refuses NaN
-    return static_cast<int>(std::lround(static_cast<double>(length) * std::fmin(scale, kMaxScale)));
+    return static_cast<int>(std::lround(static_cast<double>(length) * std::fmin(scale, MAX_SCALE)));
 }
 } // namespace
 

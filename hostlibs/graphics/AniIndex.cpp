@@ -1,27 +1,29 @@
-// Parser of animation index files (INI-like: one section per title, FrameN keys); see docs/ANIMATION.md.
+// Parser of animation index files (INI-style: one section per title, FrameN keys); see docs/ANIMATION.md.
 #include "AniIndex.h"
 
 #include <algorithm>
 #include <charconv>
 
+#include "text/IniDocument.h"
+
 namespace gfx {
 namespace {
-constexpr std::string_view kBlanks = " \t\r\n";
-constexpr std::string_view kFramePrefix = "frame";
-constexpr std::string_view kBoxWord = "box";
-constexpr std::string_view kNoColour = "none";
+constexpr std::string_view BLANKS = " \t\r\n";
+constexpr std::string_view FRAME_PREFIX = "frame";
+constexpr std::string_view BOX_WORD = "box";
+constexpr std::string_view NO_COLOUR = "none";
 
 std::string_view Trim(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(kBlanks);
+    const std::size_t first = text.find_first_not_of(BLANKS);
     if (first == std::string_view::npos) return {};
-    const std::size_t last = text.find_last_not_of(kBlanks);
+    const std::size_t last = text.find_last_not_of(BLANKS);
     return text.substr(first, last - first + 1);
 }
 
 // Splits off the first blank-separated word; text keeps the rest, trimmed.
 std::string_view NextWord(std::string_view& text) {
     text = Trim(text);
-    const std::size_t end = std::min(text.find_first_of(kBlanks), text.size());
+    const std::size_t end = std::min(text.find_first_of(BLANKS), text.size());
     const std::string_view word = text.substr(0, end);
     text = Trim(text.substr(end));
     return word;
@@ -37,14 +39,14 @@ std::optional<int> ParseInt(std::string_view text) {
 
 // "L,T,R,B": exactly four non-negative numbers.
 std::optional<AniBorder> ParseBorder(std::string_view text) {
-    constexpr int kSides = 4;
-    int values[kSides] = {};
-    for (int i = 0; i < kSides; ++i) {
+    constexpr int SIDES = 4;
+    int values[SIDES] = {};
+    for (int i = 0; i < SIDES; ++i) {
         const std::size_t comma = text.find(',');
-        const bool last = i == kSides - 1;
+        const bool last = i == SIDES - 1;
         if (last != (comma == std::string_view::npos)) return std::nullopt;
         const auto value = ParseInt(Trim(text.substr(0, comma)));
-        if (!value || *value < 0 || *value > AniIndexParser::kMaxBoxSide) return std::nullopt;
+        if (!value || *value < 0 || *value > AniIndexParser::MAX_BOX_SIDE) return std::nullopt;
         values[i] = *value;
         if (!last) text = text.substr(comma + 1);
     }
@@ -55,8 +57,8 @@ std::optional<AniFrame> ParseBox(std::string_view rest) {
     const auto width = ParseInt(NextWord(rest));
     const auto height = ParseInt(NextWord(rest));
     if (!width || !height) return std::nullopt;
-    if (*width <= 0 || *height <= 0 || *width > AniIndexParser::kMaxBoxSide ||
-        *height > AniIndexParser::kMaxBoxSide) {
+    if (*width <= 0 || *height <= 0 || *width > AniIndexParser::MAX_BOX_SIDE ||
+        *height > AniIndexParser::MAX_BOX_SIDE) {
         return std::nullopt;
     }
     AniFrame frame;
@@ -66,11 +68,11 @@ std::optional<AniFrame> ParseBox(std::string_view rest) {
     const std::string_view fill = NextWord(rest);
     if (fill.empty()) return std::nullopt;
     frame.fill = AniIndexParser::ParseColour(fill);
-    if (!frame.fill && LowerAscii(fill) != kNoColour) return std::nullopt;
+    if (!frame.fill && LowerAscii(fill) != NO_COLOUR) return std::nullopt;
     const std::string_view outline = NextWord(rest);
     if (!outline.empty()) {
         frame.outline = AniIndexParser::ParseColour(outline);
-        if (!frame.outline && LowerAscii(outline) != kNoColour) return std::nullopt;
+        if (!frame.outline && LowerAscii(outline) != NO_COLOUR) return std::nullopt;
     }
     frame.label = std::string(rest);
     if (frame.outline) frame.labelColour = *frame.outline;
@@ -80,36 +82,45 @@ std::optional<AniFrame> ParseBox(std::string_view rest) {
 struct ParseState {
     AniIndex index;
     AniTitle* current = nullptr;
-    bool currentIsDuplicate = false;
     int line = 0;
+    std::vector<std::pair<int, std::string>> lineWarnings;
 
-    void Warn(std::string_view what) {
-        index.warnings.push_back("line " + std::to_string(line) + ": " + std::string(what));
+    void Warn(std::string_view what) { lineWarnings.emplace_back(line, std::string(what)); }
+    /// The warnings in line order, as "line N: ...".
+    void FlushWarnings() {
+        std::stable_sort(lineWarnings.begin(), lineWarnings.end(),
+                         [](const auto& a, const auto& b) { return a.first < b.first; });
+        for (const auto& [number, what] : lineWarnings)
+            index.warnings.push_back("line " + std::to_string(number) + ": " + what);
+        lineWarnings.clear();
     }
 };
 
-void OpenSection(ParseState& state, std::string_view title) {
-    title = Trim(title);
-    state.current = nullptr;
-    state.currentIsDuplicate = false;
-    if (title.empty()) {
-        state.Warn("empty title");
-        return;
+// What the reader skipped, in the words of this format; nothing for what is not worth a warning.
+std::optional<std::string> Describe(const txt::IniIssue& issue) {
+    using Kind = txt::IniIssue::Kind;
+    switch (issue.kind) {
+    case Kind::UnclosedSection:
+        return "section without ']'";
+    case Kind::EmptySectionName:
+        return "empty title";
+    case Kind::RepeatedSection:
+        return "title '" + issue.name + "' repeated; the first one counts";
+    case Kind::MissingEquals:
+        return "line without '='";
+    case Kind::EmptyKey:
+        return "line without a key";
+    case Kind::OutsideSection:
+        return "entry outside a title";
+    case Kind::RepeatedKey:
+        return std::nullopt;
     }
-    const std::string key = LowerAscii(title);
-    auto [it, inserted] = state.index.titles.try_emplace(key);
-    if (!inserted) {
-        state.Warn("title '" + std::string(title) + "' repeated; the first one counts");
-        state.currentIsDuplicate = true;
-        return;
-    }
-    it->second.title = std::string(title);
-    state.current = &it->second;
+    return std::nullopt;
 }
 
 void SetFrame(ParseState& state, std::string_view number, std::string_view value) {
     const auto index = ParseInt(number);
-    if (!index || *index < 0 || *index >= AniIndexParser::kMaxFrames) {
+    if (!index || *index < 0 || *index >= AniIndexParser::MAX_FRAMES) {
         state.Warn("bad frame number '" + std::string(number) + "'");
         return;
     }
@@ -126,11 +137,11 @@ void SetFrame(ParseState& state, std::string_view number, std::string_view value
 
 void SetEntry(ParseState& state, std::string_view key, std::string_view value) {
     const std::string lowered = LowerAscii(key);
-    if (lowered.rfind(kFramePrefix, 0) == 0) {
-        SetFrame(state, std::string_view(lowered).substr(kFramePrefix.size()), value);
+    if (lowered.rfind(FRAME_PREFIX, 0) == 0) {
+        SetFrame(state, std::string_view(lowered).substr(FRAME_PREFIX.size()), value);
     } else if (lowered == "interval") {
         const auto ms = ParseInt(value);
-        if (!ms || *ms <= 0 || *ms > AniIndexParser::kMaxIntervalMs) {
+        if (!ms || *ms <= 0 || *ms > AniIndexParser::MAX_INTERVAL_MS) {
             state.Warn("bad interval '" + std::string(value) + "'");
             return;
         }
@@ -145,31 +156,6 @@ void SetEntry(ParseState& state, std::string_view key, std::string_view value) {
     } else {
         state.Warn("unknown key '" + std::string(key) + "'");
     }
-}
-
-void ParseLine(ParseState& state, std::string_view line) {
-    line = Trim(line);
-    if (line.empty() || line.front() == ';' || line.front() == '#') return;
-    if (line.front() == '[') {
-        if (line.back() != ']') {
-            state.Warn("section without ']'");
-            state.current = nullptr;
-            state.currentIsDuplicate = false;
-            return;
-        }
-        OpenSection(state, line.substr(1, line.size() - 2));
-        return;
-    }
-    const std::size_t equals = line.find('=');
-    if (equals == std::string_view::npos) {
-        state.Warn("line without '='");
-        return;
-    }
-    if (!state.current) {
-        if (!state.currentIsDuplicate) state.Warn("entry outside a title");
-        return;
-    }
-    SetEntry(state, Trim(line.substr(0, equals)), Trim(line.substr(equals + 1)));
 }
 
 void DropTitlesWithoutFrames(AniIndex& index) {
@@ -207,8 +193,8 @@ std::optional<DWORD> AniIndexParser::ParseColour(std::string_view text) {
     const char* end = text.data() + text.size();
     const auto result = std::from_chars(text.data(), end, value, 16);
     if (result.ec != std::errc() || result.ptr != end) return std::nullopt;
-    constexpr DWORD kOpaque = 0xFF000000;
-    return text.size() == 6 ? (value | kOpaque) : value;
+    constexpr DWORD OPAQUE_BITS = 0xFF000000;
+    return text.size() == 6 ? (value | OPAQUE_BITS) : value;
 }
 
 std::optional<AniFrame> AniIndexParser::ParseFrame(std::string_view value) {
@@ -216,7 +202,7 @@ std::optional<AniFrame> AniIndexParser::ParseFrame(std::string_view value) {
     if (value.empty()) return std::nullopt;
     std::string_view rest = value;
     const std::string_view first = NextWord(rest);
-    if (LowerAscii(first) == kBoxWord) return ParseBox(rest);
+    if (LowerAscii(first) == BOX_WORD) return ParseBox(rest);
     AniFrame frame;
     frame.kind = AniFrame::Kind::Image;
     frame.path = std::string(value);
@@ -224,14 +210,22 @@ std::optional<AniFrame> AniIndexParser::ParseFrame(std::string_view value) {
 }
 
 AniIndex AniIndexParser::Parse(std::string_view text) {
+    const txt::IniDocument doc = txt::IniDocument::Parse(text, txt::ANIMATION_INDEX_RULES);
     ParseState state;
-    std::size_t start = 0;
-    while (start < text.size()) {
-        const std::size_t end = std::min(text.find('\n', start), text.size());
-        ++state.line;
-        ParseLine(state, text.substr(start, end - start));
-        start = end + 1;
+    for (const txt::IniIssue& issue : doc.Issues()) {
+        state.line = issue.line;
+        if (const auto what = Describe(issue)) state.Warn(*what);
     }
+    for (const txt::IniSection& section : doc.Sections()) {
+        AniTitle& title = state.index.titles[LowerAscii(section.name)];
+        title.title = section.name;
+        state.current = &title;
+        for (const txt::IniEntry& entry : section.entries) {
+            state.line = entry.line;
+            SetEntry(state, entry.key, entry.value);
+        }
+    }
+    state.FlushWarnings();
     DropTitlesWithoutFrames(state.index);
     return std::move(state.index);
 }

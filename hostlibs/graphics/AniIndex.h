@@ -50,10 +50,10 @@ struct AniIndex {
 
 class AniIndexParser {
 public:
-    static constexpr int kMaxFrames = 1024;
-    static constexpr int kMaxBoxSide = 4096;
-    static constexpr int kMaxIntervalMs = 60000;
-    static constexpr int kDefaultIntervalMs = 100;
+    static constexpr int MAX_FRAMES = 1024;
+    static constexpr int MAX_BOX_SIDE = 4096;
+    static constexpr int MAX_INTERVAL_MS = 60000;
+    static constexpr int DEFAULT_INTERVAL_MS = 100;
 
     /// Parses the whole text. Never fails: malformed entries are skipped with a warning, a title without any
     /// frame is dropped, and frames missing between numbered frames stay empty.

@@ -4,13 +4,12 @@
 
 #include <algorithm>
 
-#include "ClientPath.h"
 #include "GraphicsState.h"
 #include "ImageDecoder.h"
 
 namespace gfx {
 namespace {
-constexpr int kBytesPerPixel = 4;
+constexpr int BYTES_PER_PIXEL = 4;
 
 // The opacity a colour argument asks for: 0 means unchanged.
 int OpacityOf(DWORD colour) {
@@ -41,9 +40,9 @@ void BitmapObject::UpdatePixels(const void* pBGRA, int nSrcWidth, int nSrcHeight
     for (int y = region.y; y < region.Bottom(); ++y) {
         for (int x = region.x; x < region.Right(); ++x) {
             const std::uint8_t* from =
-                source + (static_cast<std::size_t>(y) * nSrcWidth + x) * kBytesPerPixel;
+                source + (static_cast<std::size_t>(y) * nSrcWidth + x) * BYTES_PER_PIXEL;
             std::uint8_t* to =
-                &m_image.rgba[(static_cast<std::size_t>(y) * m_image.width + x) * kBytesPerPixel];
+                &m_image.rgba[(static_cast<std::size_t>(y) * m_image.width + x) * BYTES_PER_PIXEL];
             to[0] = from[2];
             to[1] = from[1];
             to[2] = from[0];
@@ -57,17 +56,14 @@ void BitmapObject::UpdatePixels(const void* pBGRA, int nSrcWidth, int nSrcHeight
 CMyBitmap* MyBitmapCreate(const char* szFile) {
     if (!szFile) return nullptr;
     gfx::Image image;
-    const std::string path = gfx::ClientPath::Resolve(szFile);
-    if (!path.empty()) {
-        if (auto decoded = gfx::ImageDecoder::DecodeFile(path)) image = std::move(*decoded);
-    }
+    if (auto decoded = gfx::ImageDecoder::DecodeClientFile(szFile)) image = std::move(*decoded);
     return new gfx::BitmapObject(szFile, std::move(image));
 }
 
 CMyBitmap* MyBitmapCreateEmpty(int nWidth, int nHeight) {
     gfx::Image image;
-    image.width = std::clamp(nWidth, 1, gfx::BitmapObject::kMaxSide);
-    image.height = std::clamp(nHeight, 1, gfx::BitmapObject::kMaxSide);
+    image.width = std::clamp(nWidth, 1, gfx::BitmapObject::MAX_SIDE);
+    image.height = std::clamp(nHeight, 1, gfx::BitmapObject::MAX_SIDE);
     image.rgba.assign(static_cast<std::size_t>(image.width) * static_cast<std::size_t>(image.height) * 4, 0);
     return new gfx::BitmapObject({}, std::move(image));
 }

@@ -12,7 +12,7 @@ namespace gfx {
 class BitmapObject final : public CMyBitmap {
 public:
     /// Largest side of an empty bitmap.
-    static constexpr int kMaxSide = 8192;
+    static constexpr int MAX_SIDE = 8192;
 
     /// name is what a recording shows (the file as the caller gave it; empty for an empty bitmap).
     BitmapObject(std::string name, Image image);

@@ -17,9 +17,9 @@ inline int SaturatedAdd(long long a, long long b) {
 
 /// Coordinates and sizes handed to the graphics library are kept within this distance of the origin: nothing
 /// that far away is on any screen, and the drawing code may then add offsets without overflowing.
-inline constexpr int kCoordLimit = 1 << 28;
+inline constexpr int COORD_LIMIT = 1 << 28;
 inline int ClampCoord(int n) {
-    return n > kCoordLimit ? kCoordLimit : n < -kCoordLimit ? -kCoordLimit : n;
+    return n > COORD_LIMIT ? COORD_LIMIT : n < -COORD_LIMIT ? -COORD_LIMIT : n;
 }
 inline RECT ClampRECT(const RECT& rc) {
     return {ClampCoord(rc.left), ClampCoord(rc.top), ClampCoord(rc.right), ClampCoord(rc.bottom)};
@@ -68,8 +68,15 @@ struct TextStyle {
     DWORD effectColour = 0xFF000000;
 };
 
-inline constexpr int kTextEffectShadow = 1;
-inline constexpr int kTextEffectOutline = 2;
+/// The window of the widget toolkit whose drawing follows: a dialog, or one of its controls.
+struct WindowTag {
+    unsigned dialog = 0;  ///< template id of the dialog
+    unsigned control = 0; ///< control id; 0 for the dialog itself
+    Rect rect;            ///< the window's screen rectangle
+};
+
+inline constexpr int TEXT_EFFECT_SHADOW = 1;
+inline constexpr int TEXT_EFFECT_OUTLINE = 2;
 
 /// Receives the drawing. Coordinates are screen pixels; every primitive is limited to the clip rectangle.
 class ICanvas {
@@ -95,6 +102,11 @@ public:
     /// that a canvas that records operations can keep the compound instead of its parts. Compounds may nest.
     virtual void BeginCompound(const host::DrawOp& op) = 0;
     virtual void EndCompound() = 0;
+
+    /// Brackets what one window draws, so that a canvas that checks the drawing can compare it with the
+    /// window's rectangle. Windows nest (a dialog, then its controls); the innermost one is the drawer.
+    virtual void BeginWindow(const WindowTag& window) = 0;
+    virtual void EndWindow() = 0;
 };
 
 /// Builds a recorded operation field by field.

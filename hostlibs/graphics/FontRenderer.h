@@ -1,13 +1,11 @@
-// Glyphs of the one font face the graphics library draws with, rendered by FreeType and cached per size.
+// Glyphs of the one font face the graphics library draws with, rendered by FreeType and cached per size, and
+// the cell widths every text is measured and placed by.
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <map>
 #include <mutex>
-#include <string>
 #include <string_view>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -22,12 +20,15 @@ struct Glyph {
     int rows = 0;
     int left = 0;    ///< pixels right of the pen
     int top = 0;     ///< pixels above the baseline
-    int advance = 0; ///< pixels to the next pen position
+    int advance = 0; ///< the face's own advance in pixels
     std::vector<std::uint8_t> coverage;
 };
 
-/// The font used for every text. Without a readable font file, texts are measured as half the size per
-/// character and drawn as nothing.
+/// The font used for every text. Texts are measured and placed by cells, exactly as the auto text lays them
+/// out: a character below U+0080 (one byte in UTF-8) is half the font size wide, every other character the
+/// full size. The face (Noto Sans Mono CJK, whose Latin advance is half the em and CJK advance the full em)
+/// is scaled to those cells, and each glyph is drawn at the start of its cell, so a drawn text never drifts
+/// from its layout. Without a readable font file, texts are measured the same way and drawn as nothing.
 class FontRenderer {
 public:
     static FontRenderer& Instance();
@@ -38,30 +39,34 @@ public:
     bool HasFace() const { return m_face != nullptr; }
     /// Pixel sizes are clamped to this range.
     static int ClampSize(int size);
-    /// The glyph of c at that size; null without a face. Valid until the next call on this renderer.
-    const Glyph* GetGlyph(char32_t c, int size);
-    /// Pixels from the top of a line to its baseline.
-    int Ascender(int size);
-    /// Width of the widest line of the text (lines end at line feeds).
-    int Measure(std::u32string_view text, int size);
+    /// Width of the cell of c at that size: half the size below U+0080, else the full size.
+    static int CellWidth(char32_t c, int size) { return c < 0x80 ? size / 2 : size; }
+    /// Width of the widest line of the text (lines end at line feeds), by cells.
+    static int Measure(std::u32string_view text, int size);
     /// Height of the text: one font size per line plus the line gap between lines.
     static int MeasureHeight(std::u32string_view text, int size);
     /// Extra pixels between two lines of one text.
-    static constexpr int kLineGap = 2;
+    static constexpr int LINE_GAP = 2;
+
+    /// The glyph of c at that size; null without a face. Valid until the next call on this renderer.
+    const Glyph* GetGlyph(char32_t c, int size);
+    /// Pixels from the top of a line to its baseline: the face's ideographic em box fills the line's height.
+    int Ascender(int size) const;
 
 private:
     FontRenderer();
+    /// Opens the face of the family of the font file, or its first face; false when the file cannot be read.
+    bool OpenFace(const char* path);
+    bool UseFace(::FT_FaceRec_* face);
     bool SelectSize(int size);
 
     ::FT_LibraryRec_* m_library = nullptr;
     ::FT_FaceRec_* m_face = nullptr;
+    /// Share of the em above the baseline, in thousandths.
+    int m_ascentPerMille = 880;
     int m_selectedSize = 0;
     std::map<std::pair<int, char32_t>, Glyph> m_glyphs;
     std::mutex m_mutex;
-    /// ASCII advances per font size (-1: not known yet), so that measuring a label takes one look-up per
-    /// text instead of one locked glyph look-up per character.
-    std::unordered_map<int, std::array<int, 128>> m_asciiAdvances;
-    std::mutex m_advanceMutex;
 };
 
 } // namespace gfx

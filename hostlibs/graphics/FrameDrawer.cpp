@@ -5,7 +5,7 @@
 
 #include "AniCache.h"
 #include "FontRenderer.h"
-#include "TextCodec.h"
+#include "text/Utf8.h"
 
 namespace gfx {
 namespace {
@@ -32,10 +32,10 @@ SIZE FrameDrawer::NaturalSize(const AniFrame& frame) {
 void FrameDrawer::DrawBox(ICanvas& canvas, const AniFrame& frame, const Rect& dst, int alpha) {
     if (frame.fill) canvas.FillRect(dst, WithOpacity(*frame.fill, alpha));
     if (frame.outline) canvas.OutlineRect(dst, WithOpacity(*frame.outline, alpha));
-    if (frame.label.empty() || dst.h < kMinLabelSize) return;
-    const int size = std::min(kLabelSize, dst.h);
-    const std::u32string label = TextCodec::Utf8ToUtf32(frame.label);
-    const int width = FontRenderer::Instance().Measure(label, size);
+    if (frame.label.empty() || dst.h < MIN_LABEL_SIZE) return;
+    const int size = std::min(LABEL_SIZE, dst.h);
+    const std::u32string label = txt::Utf8::ToUtf32(frame.label);
+    const int width = FontRenderer::Measure(label, size);
     const Rect previous = canvas.Clip();
     canvas.SetClip(previous.Intersect(dst));
     TextStyle style;

@@ -16,9 +16,9 @@ public:
     /// fill dst.
     static bool DrawPart(ICanvas& canvas, const AniFrame& frame, const Rect& src, const Rect& dst, int alpha);
 
-    /// Placeholder labels use at most this font size, and are left out in boxes lower than kMinLabelSize.
-    static constexpr int kLabelSize = 12;
-    static constexpr int kMinLabelSize = 6;
+    /// Placeholder labels use at most this font size, and are left out in boxes lower than MIN_LABEL_SIZE.
+    static constexpr int LABEL_SIZE = 12;
+    static constexpr int MIN_LABEL_SIZE = 6;
 
 private:
     static void DrawBox(ICanvas& canvas, const AniFrame& frame, const Rect& dst, int alpha);

@@ -11,14 +11,14 @@
 #include "FrameDrawer.h"
 #include "GraphicsState.h"
 #include "NinePatch.h"
-#include "TextCodec.h"
+#include "text/Utf8.h"
 
 namespace {
-constexpr const char* kStrResAniFile = "ani/StrRes.ani";
-constexpr int kDefaultFontSize = 14;
-constexpr std::size_t kMaxStrResLength = 16 * 1024;
-constexpr DWORD kOpaqueAlpha = 0xFF000000;
-constexpr int kOpaque = 255;
+constexpr const char* STR_RES_ANI_FILE = "ani/StrRes.ani";
+constexpr int DEFAULT_FONT_SIZE = 14;
+constexpr std::size_t MAX_STR_RES_LENGTH = 16 * 1024;
+constexpr DWORD OPAQUE_ALPHA = 0xFF000000;
+constexpr int FULL_ALPHA = 255;
 
 gfx::AniHandle* FindAni(const char* szFile, const char* szTitle) {
     if (!szFile || !szTitle) return nullptr;
@@ -40,14 +40,13 @@ bool HasVisibleFrame(const gfx::AniHandle& ani) {
 std::vector<std::u32string> BreakLines(const std::u32string& text, int size, int limit) {
     std::vector<std::u32string> lines(1);
     int width = 0;
-    gfx::FontRenderer& font = gfx::FontRenderer::Instance();
     for (char32_t c : text) {
         if (c == U'\n') {
             lines.emplace_back();
             width = 0;
             continue;
         }
-        const int advance = font.Measure(std::u32string_view(&c, 1), size);
+        const int advance = gfx::FontRenderer::CellWidth(c, size);
         if (limit > 0 && width + advance > limit && !lines.back().empty()) {
             lines.emplace_back();
             width = 0;
@@ -68,7 +67,7 @@ bool CGameGraphic::ShowNineImageBackGround(const char* szTitle, int x, int y, in
     nHeight = gfx::ClampCoord(nHeight);
     const gfx::Rect dst{x, y, nWidth, nHeight};
     if (!ani || dst.Empty() || !HasVisibleFrame(*ani)) return false;
-    nAlpha = std::clamp(nAlpha, 0, kOpaque);
+    nAlpha = std::clamp(nAlpha, 0, FULL_ALPHA);
     gfx::ICanvas& canvas = gfx::GraphicsState::Instance().Canvas();
     const gfx::CompoundScope scope(canvas, gfx::OpBuilder("nine", {x, y, nWidth, nHeight})
                                                .Colour(static_cast<DWORD>(nAlpha))
@@ -99,23 +98,23 @@ int CGameGraphic::ShowStrRes(int x, int y, const char* szText, DWORD dwMode, con
     if (!szText || !*szText) return 0;
     x = gfx::ClampCoord(x);
     y = gfx::ClampCoord(y);
-    const int size = gfx::FontRenderer::ClampSize(nFontSize > 0 ? nFontSize : kDefaultFontSize);
+    const int size = gfx::FontRenderer::ClampSize(nFontSize > 0 ? nFontSize : DEFAULT_FONT_SIZE);
     const std::u32string text =
-        gfx::TextCodec::Utf8ToUtf32(std::string_view(szText, strnlen(szText, kMaxStrResLength)));
+        txt::Utf8::ToUtf32(std::string_view(szText, strnlen(szText, MAX_STR_RES_LENGTH)));
     const auto lines = BreakLines(text, size, nLimitWidth >= size ? nLimitWidth : 0);
-    const int lineHeight = size + gfx::FontRenderer::kLineGap;
+    const int lineHeight = size + gfx::FontRenderer::LINE_GAP;
     int width = 0;
-    for (const auto& line : lines) width = std::max(width, gfx::FontRenderer::Instance().Measure(line, size));
-    const int height = static_cast<int>(lines.size()) * lineHeight - gfx::FontRenderer::kLineGap;
+    for (const auto& line : lines) width = std::max(width, gfx::FontRenderer::Measure(line, size));
+    const int height = static_cast<int>(lines.size()) * lineHeight - gfx::FontRenderer::LINE_GAP;
     if (pOutSize) *pOutSize = {width, height};
     if (!bShow) return static_cast<int>(lines.size());
-    const DWORD colour = (dwColor & kOpaqueAlpha) == 0 ? dwColor | kOpaqueAlpha : dwColor;
+    const DWORD colour = (dwColor & OPAQUE_ALPHA) == 0 ? dwColor | OPAQUE_ALPHA : dwColor;
     gfx::ICanvas& canvas = gfx::GraphicsState::Instance().Canvas();
     const gfx::CompoundScope scope(canvas, gfx::OpBuilder("strres", {x, y, width, height})
                                                .Colour(colour)
                                                .Size(size)
                                                .Frame(static_cast<int>(dwMode))
-                                               .Text(gfx::TextCodec::Utf32ToUtf8(text)));
+                                               .Text(txt::Utf8::FromUtf32(text)));
     gfx::TextStyle style;
     style.colour = colour;
     style.size = size;
@@ -127,7 +126,7 @@ int CGameGraphic::ShowStrRes(int x, int y, const char* szText, DWORD dwMode, con
 
 bool CGameGraphic::ShowStrresUI(int nWidth, int nHeight, int x, int y, const char* szTitle, int nFrame,
                                 const char* szAniFile) {
-    const gfx::AniHandle* ani = FindAni(kStrResAniFile, szTitle);
+    const gfx::AniHandle* ani = FindAni(STR_RES_ANI_FILE, szTitle);
     if (!ani) return false;
     x = gfx::ClampCoord(x);
     y = gfx::ClampCoord(y);
@@ -141,9 +140,9 @@ bool CGameGraphic::ShowStrresUI(int nWidth, int nHeight, int x, int y, const cha
     if (!frame || dst.Empty()) return false;
     gfx::ICanvas& canvas = gfx::GraphicsState::Instance().Canvas();
     const gfx::CompoundScope scope(canvas, gfx::OpBuilder("strresui", dst)
-                                               .Colour(static_cast<DWORD>(kOpaque))
+                                               .Colour(static_cast<DWORD>(FULL_ALPHA))
                                                .Frame(nFrame)
                                                .File(szAniFile ? szAniFile : "")
                                                .Name(ani->GetTitle()));
-    return gfx::FrameDrawer::Draw(canvas, *frame, dst, kOpaque);
+    return gfx::FrameDrawer::Draw(canvas, *frame, dst, FULL_ALPHA);
 }

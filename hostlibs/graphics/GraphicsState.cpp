@@ -5,7 +5,7 @@
 
 namespace gfx {
 namespace {
-constexpr DWORD kDefaultClearColour = 0xFF000000;
+constexpr DWORD DEFAULT_CLEAR_COLOUR = 0xFF000000;
 }
 
 GraphicsState& GraphicsState::Instance() {
@@ -21,7 +21,7 @@ Rect GraphicsState::ScreenRect() {
 
 ICanvas& GraphicsState::Canvas() {
     if (!m_canvas) Use(m_kind);
-    return *m_canvas;
+    return m_tee ? static_cast<ICanvas&>(*m_tee) : *m_canvas;
 }
 
 void GraphicsState::Use(host::CanvasKind kind) {
@@ -31,7 +31,28 @@ void GraphicsState::Use(host::CanvasKind kind) {
     } else {
         m_canvas = std::make_unique<RecordingCanvas>();
     }
-    BeginFrame(kDefaultClearColour);
+    AttachCheck();
+    BeginFrame(DEFAULT_CLEAR_COLOUR);
+}
+
+void GraphicsState::EnableCheck(bool enable) {
+    m_checkEnabled = enable;
+    if (!m_canvas) return Use(m_kind);
+    AttachCheck();
+    BeginFrame(DEFAULT_CLEAR_COLOUR);
+}
+
+void GraphicsState::AttachCheck() {
+    m_tee.reset();
+    m_check.reset();
+    if (!m_checkEnabled || m_kind != host::CanvasKind::Raster) return;
+    m_check = std::make_unique<RecordingCanvas>();
+    m_tee = std::make_unique<TeeCanvas>(*m_canvas, *m_check);
+}
+
+const RecordingCanvas* GraphicsState::Checking() {
+    if (RecordingCanvas* recording = Recording()) return recording;
+    return m_check.get();
 }
 
 void GraphicsState::BeginFrame(DWORD clearColour) {
@@ -40,11 +61,13 @@ void GraphicsState::BeginFrame(DWORD clearColour) {
 }
 
 RecordingCanvas* GraphicsState::Recording() {
-    return m_kind == host::CanvasKind::Recording ? static_cast<RecordingCanvas*>(&Canvas()) : nullptr;
+    if (!m_canvas) Use(m_kind);
+    return m_kind == host::CanvasKind::Recording ? static_cast<RecordingCanvas*>(m_canvas.get()) : nullptr;
 }
 
 RasterCanvas* GraphicsState::Raster() {
-    return m_kind == host::CanvasKind::Raster ? static_cast<RasterCanvas*>(&Canvas()) : nullptr;
+    if (!m_canvas) Use(m_kind);
+    return m_kind == host::CanvasKind::Raster ? static_cast<RasterCanvas*>(m_canvas.get()) : nullptr;
 }
 
 RECT GraphicsState::SetClip(const RECT* prc) {

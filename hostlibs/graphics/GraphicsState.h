@@ -7,6 +7,7 @@
 #include "Canvas.h"
 #include "RasterCanvas.h"
 #include "RecordingCanvas.h"
+#include "TeeCanvas.h"
 
 namespace gfx {
 
@@ -23,6 +24,11 @@ public:
     /// The current canvas as its kind, or null when it is of the other kind.
     RecordingCanvas* Recording();
     RasterCanvas* Raster();
+    /// While on, a raster canvas is drawn through a tee that also records, for Checking.
+    void EnableCheck(bool enable);
+    /// The recording canvas that sees the drawing: the current canvas when it records, else the check beside
+    /// a raster canvas; null when there is none.
+    const RecordingCanvas* Checking();
 
     /// Sets the clip (null: the whole canvas) and returns the previous one.
     RECT SetClip(const RECT* prc);
@@ -40,9 +46,14 @@ public:
 private:
     GraphicsState() = default;
     static Rect ScreenRect();
+    /// Puts the check beside the current canvas, or removes it.
+    void AttachCheck();
 
     host::CanvasKind m_kind = host::CanvasKind::Recording;
     std::unique_ptr<ICanvas> m_canvas;
+    bool m_checkEnabled = false;
+    std::unique_ptr<RecordingCanvas> m_check;
+    std::unique_ptr<TeeCanvas> m_tee; ///< what Canvas answers while the check is attached
 };
 
 } // namespace gfx

@@ -36,7 +36,7 @@ std::vector<Gui3DEffectSet::Effect>::const_iterator Gui3DEffectSet::Find(const c
 bool Gui3DEffectSet::Add(const char* szName, int nPlayCount, int) {
     if (!szName || !*szName) return false;
     if (Find(szName) != m_effects.end()) return true;
-    if (m_effects.size() >= kMaxEffects) return false;
+    if (m_effects.size() >= MAX_EFFECTS) return false;
     m_effects.push_back({szName, TimeGet(), nPlayCount < 0 ? nPlayCount : std::max(nPlayCount, 1)});
     return true;
 }
@@ -63,10 +63,10 @@ void Gui3DEffectSet::ShowEffect(const Effect& effect, int x, int y) const {
     ICanvas& canvas = GraphicsState::Instance().Canvas();
     const AniHandle* ani = AniCache::Instance().Animation(GUI_EFFECT_ANI_FILE, effect.name);
     if (!ani) {
-        if (!StillPlaying(effect.startMs, effect.playCount, kPlaceholderPlayMs, now)) return;
+        if (!StillPlaying(effect.startMs, effect.playCount, PLACEHOLDER_PLAY_MS, now)) return;
         const Rect area{x, y, width, height};
         const CompoundScope scope(canvas, OpBuilder("effect", {x, y, width, height}).Name(effect.name));
-        canvas.OutlineRect(area, kPlaceholderColour);
+        canvas.OutlineRect(area, PLACEHOLDER_COLOUR);
         return;
     }
     const DWORD interval = static_cast<DWORD>(ani->GetInterval());

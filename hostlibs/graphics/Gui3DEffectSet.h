@@ -11,11 +11,11 @@ namespace gfx {
 class Gui3DEffectSet final : public CGui3DEffect {
 public:
     /// How long one play of an effect without an animation lasts.
-    static constexpr DWORD kPlaceholderPlayMs = 1000;
+    static constexpr DWORD PLACEHOLDER_PLAY_MS = 1000;
     /// Outline colour of an effect without an animation.
-    static constexpr DWORD kPlaceholderColour = 0xC0FFC800;
+    static constexpr DWORD PLACEHOLDER_COLOUR = 0xC0FFC800;
     /// Effects per object; adding beyond is refused.
-    static constexpr std::size_t kMaxEffects = 64;
+    static constexpr std::size_t MAX_EFFECTS = 64;
 
     bool Add(const char* szName, int nPlayCount, int nReserved) override;
     bool Delete(const char* szName) override;

@@ -29,6 +29,15 @@ std::size_t DroppedOpCount() {
     return canvas ? canvas->Dropped() : 0;
 }
 
+std::vector<DrawOverflow> GetDrawOverflows() {
+    const gfx::RecordingCanvas* canvas = gfx::GraphicsState::Instance().Checking();
+    return canvas ? canvas->Overflows() : std::vector<DrawOverflow>();
+}
+
+void EnableDrawingCheck(bool bEnable) {
+    gfx::GraphicsState::Instance().EnableCheck(bEnable);
+}
+
 std::string DumpRecordedOps() {
     std::string out;
     for (const DrawOp& op : GetRecordedOps()) {

@@ -2,10 +2,14 @@
 #include "ImageDecoder.h"
 
 #include <climits>
+#include <cstdio>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <system_error>
+
+#include "Log.h"
+#include "text/ClientPath.h"
 
 #define STB_IMAGE_STATIC
 #define STB_IMAGE_IMPLEMENTATION
@@ -16,39 +20,60 @@
 #include <stb/stb_image.h>
 
 namespace gfx {
+namespace {
+constexpr int RGBA_CHANNELS = 4;
 
-std::optional<Image> ImageDecoder::Decode(const std::vector<std::uint8_t>& bytes) {
-    if (bytes.empty() || bytes.size() > static_cast<std::size_t>(INT_MAX)) return std::nullopt;
+std::optional<Image> Refuse(std::string* error, std::string what) {
+    if (error) *error = std::move(what);
+    return std::nullopt;
+}
+} // namespace
+
+std::optional<Image> ImageDecoder::Decode(const std::vector<std::uint8_t>& bytes, std::string* error) {
+    if (bytes.empty()) return Refuse(error, "empty file");
+    if (bytes.size() > static_cast<std::size_t>(INT_MAX)) return Refuse(error, "file too large");
     const auto* data = reinterpret_cast<const stbi_uc*>(bytes.data());
     const int length = static_cast<int>(bytes.size());
     int width = 0, height = 0, channels = 0;
-    if (!stbi_info_from_memory(data, length, &width, &height, &channels)) return std::nullopt;
+    if (!stbi_info_from_memory(data, length, &width, &height, &channels))
+        return Refuse(error, "not a BMP, JPEG or PNG picture");
     // NOTE: stb reports a top-down bitmap's height as stored, negative; the picture itself loads upright.
     if (height < 0 && height != INT_MIN) height = -height;
-    if (width <= 0 || height <= 0 || width > kMaxSide || height > kMaxSide) return std::nullopt;
-    constexpr int kRgba = 4;
-    stbi_uc* pixels = stbi_load_from_memory(data, length, &width, &height, &channels, kRgba);
-    if (!pixels) return std::nullopt;
+    if (width <= 0 || height <= 0 || width > MAX_SIDE || height > MAX_SIDE)
+        return Refuse(error, "size " + std::to_string(width) + "x" + std::to_string(height) + " refused");
+    stbi_uc* pixels = stbi_load_from_memory(data, length, &width, &height, &channels, RGBA_CHANNELS);
+    if (!pixels) return Refuse(error, std::string("damaged: ") + stbi_failure_reason());
     Image image;
     image.width = width;
     image.height = height;
-    const std::size_t count = static_cast<std::size_t>(width) * static_cast<std::size_t>(height) * kRgba;
+    const std::size_t count =
+        static_cast<std::size_t>(width) * static_cast<std::size_t>(height) * RGBA_CHANNELS;
     image.rgba.assign(pixels, pixels + count);
     stbi_image_free(pixels);
     return image;
 }
 
-std::optional<Image> ImageDecoder::DecodeFile(const std::string& path) {
-    std::error_code error;
-    const std::uintmax_t size = std::filesystem::file_size(path, error);
-    if (error || size == 0 || size > kMaxFileBytes) return std::nullopt;
-    std::ifstream in(path, std::ios::binary);
-    if (!in) return std::nullopt;
-    std::vector<std::uint8_t> bytes(static_cast<std::size_t>(size));
-    if (!in.read(reinterpret_cast<char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()))) {
-        return std::nullopt;
+std::optional<Image> ImageDecoder::DecodeClientFile(std::string_view name) {
+    const std::string path = txt::ClientPath::Resolve(name);
+    if (path.empty()) return std::nullopt;
+    std::string error;
+    std::optional<Image> image;
+    std::error_code code;
+    const std::uintmax_t size = std::filesystem::file_size(path, code);
+    if (code || size > MAX_FILE_BYTES) {
+        error = code ? "cannot be read" : "file larger than " + std::to_string(MAX_FILE_BYTES) + " bytes";
+    } else {
+        std::vector<std::uint8_t> bytes(static_cast<std::size_t>(size));
+        std::ifstream in(path, std::ios::binary);
+        if (in.read(reinterpret_cast<char*>(bytes.data()), static_cast<std::streamsize>(bytes.size())))
+            image = Decode(bytes, &error);
+        else
+            error = "cannot be read";
     }
-    return Decode(bytes);
+    if (!image)
+        LogMsg("picture %.*s cannot be decoded: %s", static_cast<int>(name.size()), name.data(),
+               error.c_str());
+    return image;
 }
 
 } // namespace gfx

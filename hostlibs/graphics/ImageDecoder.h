@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "Canvas.h"
@@ -13,14 +14,16 @@ namespace gfx {
 class ImageDecoder {
 public:
     /// Pictures larger than this on either side are refused.
-    static constexpr int kMaxSide = 16384;
+    static constexpr int MAX_SIDE = 16384;
     /// Files larger than this are refused unread.
-    static constexpr std::uintmax_t kMaxFileBytes = 256u * 1024u * 1024u;
+    static constexpr std::uintmax_t MAX_FILE_BYTES = 256u * 1024u * 1024u;
 
-    /// Decodes the picture in memory; nothing for an unknown format, a damaged file or a refused size.
-    static std::optional<Image> Decode(const std::vector<std::uint8_t>& bytes);
-    /// Reads and decodes the file at an absolute path.
-    static std::optional<Image> DecodeFile(const std::string& path);
+    /// Decodes the picture in memory; nothing for an unknown format, a damaged file or a refused size, with
+    /// what was wrong in error when given.
+    static std::optional<Image> Decode(const std::vector<std::uint8_t>& bytes, std::string* error = nullptr);
+    /// Reads and decodes a client file (ClientPath). A missing file gives nothing quietly (missing art draws
+    /// nothing); a file that cannot be decoded is reported with LogMsg, once per call.
+    static std::optional<Image> DecodeClientFile(std::string_view name);
 };
 
 } // namespace gfx

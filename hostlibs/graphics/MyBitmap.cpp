@@ -5,43 +5,39 @@
 #include "FontRenderer.h"
 #include "Graphics.h"
 #include "GraphicsState.h"
-#include "TextCodec.h"
 #include "hostlibs/HostEnv.h"
+#include "text/Utf8.h"
 
 namespace {
-constexpr int kDefaultFontSize = 14;
-constexpr const char* kDefaultFontName = "DejaVu Sans";
+constexpr int DEFAULT_FONT_SIZE = 14;
+constexpr const char* DEFAULT_FONT_NAME = "Noto Sans Mono CJK SC";
 // Longest text drawn or measured at once; longer texts are cut.
-constexpr std::size_t kMaxTextLength = 64 * 1024;
-constexpr DWORD kOpaqueAlpha = 0xFF000000;
-constexpr unsigned char kFirstLeadByte = 0xC2;
-constexpr unsigned char kLastLeadByte = 0xF4;
+constexpr std::size_t MAX_TEXT_LENGTH = 64 * 1024;
+constexpr DWORD OPAQUE_ALPHA = 0xFF000000;
 
 int FontSizeOr(int size) {
-    return size > 0 ? size : kDefaultFontSize;
+    return size > 0 ? size : DEFAULT_FONT_SIZE;
 }
 
 // Widget colours often carry no alpha; for text and lines such a colour means opaque.
 DWORD OpaqueIfNoAlpha(DWORD colour) {
-    return (colour & kOpaqueAlpha) == 0 ? colour | kOpaqueAlpha : colour;
+    return (colour & OPAQUE_ALPHA) == 0 ? colour | OPAQUE_ALPHA : colour;
 }
 
 std::u32string FromUtf8(const char* text) {
     if (!text) return {};
-    return gfx::TextCodec::Utf8ToUtf32(std::string_view(text, strnlen(text, kMaxTextLength)));
+    return txt::Utf8::ToUtf32(std::string_view(text, strnlen(text, MAX_TEXT_LENGTH)));
 }
 
 std::u32string FromUtf16(const char16_t* text) {
-    return gfx::TextCodec::Utf16ToUtf32(
-        std::u16string_view(text, gfx::TextCodec::Utf16Length(text, kMaxTextLength)));
+    return txt::Utf8::Utf16ToUtf32(std::u16string_view(text, txt::Utf8::Utf16Length(text, MAX_TEXT_LENGTH)));
 }
 
 void DrawText(int x, int y, DWORD colour, const std::u32string& text, int size, bool antialias, int style,
               DWORD effectColour, SIZE* pOutSize) {
     size = gfx::FontRenderer::ClampSize(FontSizeOr(size));
     if (pOutSize) {
-        *pOutSize = {gfx::FontRenderer::Instance().Measure(text, size),
-                     gfx::FontRenderer::MeasureHeight(text, size)};
+        *pOutSize = {gfx::FontRenderer::Measure(text, size), gfx::FontRenderer::MeasureHeight(text, size)};
     }
     if (text.empty()) return;
     gfx::TextStyle textStyle;
@@ -67,23 +63,23 @@ void CMyBitmap::ShowString(int x, int y, DWORD dwColor, const char* szText, cons
 }
 
 int CMyBitmap::GetStringWidth(const char* szText, int nFontSize) {
-    return gfx::FontRenderer::Instance().Measure(FromUtf8(szText), FontSizeOr(nFontSize));
+    return gfx::FontRenderer::Measure(FromUtf8(szText), FontSizeOr(nFontSize));
 }
 
 int CMyBitmap::GetStringWidthW(const char16_t* szText, int nFontSize) {
-    return gfx::FontRenderer::Instance().Measure(FromUtf16(szText), FontSizeOr(nFontSize));
+    return gfx::FontRenderer::Measure(FromUtf16(szText), FontSizeOr(nFontSize));
 }
 
 int CMyBitmap::GetFontSize() {
-    return kDefaultFontSize;
+    return DEFAULT_FONT_SIZE;
 }
 
 const char* CMyBitmap::GetDefaultFontName() {
-    return kDefaultFontName;
+    return DEFAULT_FONT_NAME;
 }
 
 bool CMyBitmap::IsDBCSLeadByte(unsigned char byte) {
-    return byte >= kFirstLeadByte && byte <= kLastLeadByte;
+    return txt::Utf8::IsLeadByte(byte);
 }
 
 void CMyBitmap::ShowLine(int x1, int y1, int x2, int y2, DWORD dwColor) {

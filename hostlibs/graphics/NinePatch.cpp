@@ -7,7 +7,7 @@
 
 namespace gfx {
 namespace {
-constexpr int kPieces = 9;
+constexpr int PIECES = 9;
 
 // Shrinks two corner lengths in proportion so that together they fit into the available length.
 void FitCorners(int available, int& first, int& second) {
@@ -41,7 +41,7 @@ bool NinePatch::DrawNineFrames(ICanvas& canvas, const AniHandle& ani, const Rect
     const SIZE bottomLeft = ani.GetSize(6);
     const auto parts = Split(dst, topLeft.cx, topLeft.cy, topRight.cx, bottomLeft.cy);
     bool drawn = false;
-    for (int i = 0; i < kPieces; ++i) {
+    for (int i = 0; i < PIECES; ++i) {
         const Rect& part = parts[static_cast<std::size_t>(i)];
         if (!part.Empty()) drawn = FrameDrawer::Draw(canvas, *ani.Frame(i), part, alpha) || drawn;
     }
@@ -67,7 +67,7 @@ bool NinePatch::DrawBorderedFrame(ICanvas& canvas, const AniHandle& ani, const R
 
 bool NinePatch::Draw(ICanvas& canvas, const AniHandle& ani, const Rect& dst, int alpha) {
     if (dst.Empty()) return false;
-    if (ani.GetFrameAmount() >= kPieces) return DrawNineFrames(canvas, ani, dst, alpha);
+    if (ani.GetFrameAmount() >= PIECES) return DrawNineFrames(canvas, ani, dst, alpha);
     return DrawBorderedFrame(canvas, ani, dst, alpha);
 }
 

@@ -8,8 +8,8 @@
 
 namespace gfx {
 namespace {
-constexpr unsigned kOpaque = 255;
-constexpr unsigned kHardEdgeThreshold = 128;
+constexpr unsigned FULL_ALPHA = 255;
+constexpr unsigned HARD_EDGE_THRESHOLD = 128;
 
 unsigned AlphaOf(DWORD colour) {
     return (colour >> 24) & 0xFF;
@@ -21,7 +21,7 @@ unsigned Scale(unsigned a, unsigned b) {
     return (a * b + 127) / 255;
 }
 std::uint8_t Mix(unsigned source, unsigned target, unsigned alpha) {
-    return static_cast<std::uint8_t>((source * alpha + target * (kOpaque - alpha) + 127) / 255);
+    return static_cast<std::uint8_t>((source * alpha + target * (FULL_ALPHA - alpha) + 127) / 255);
 }
 } // namespace
 
@@ -48,7 +48,7 @@ DWORD RasterCanvas::PixelAt(int x, int y) const {
 void RasterCanvas::BlendPixel(int x, int y, DWORD colour, unsigned alpha) {
     if (alpha == 0 || !m_clip.Contains(x, y)) return;
     std::uint8_t* p = &m_pixels[(static_cast<std::size_t>(y) * m_width + x) * 4];
-    if (alpha >= kOpaque) {
+    if (alpha >= FULL_ALPHA) {
         p[0] = Channel(colour, 16);
         p[1] = Channel(colour, 8);
         p[2] = Channel(colour, 0);
@@ -58,7 +58,7 @@ void RasterCanvas::BlendPixel(int x, int y, DWORD colour, unsigned alpha) {
     p[0] = Mix(Channel(colour, 16), p[0], alpha);
     p[1] = Mix(Channel(colour, 8), p[1], alpha);
     p[2] = Mix(Channel(colour, 0), p[2], alpha);
-    p[3] = static_cast<std::uint8_t>(alpha + Scale(p[3], kOpaque - alpha));
+    p[3] = static_cast<std::uint8_t>(alpha + Scale(p[3], FULL_ALPHA - alpha));
 }
 
 void RasterCanvas::FillRect(const Rect& rc, DWORD colour) {
@@ -82,11 +82,11 @@ void RasterCanvas::OutlineRect(const Rect& rc, DWORD colour) {
 void RasterCanvas::Line(int x1, int y1, int x2, int y2, DWORD colour) {
     // Bresenham. Ends far outside the screen are pulled in so that a wild coordinate cannot make the walk
     // endless.
-    constexpr int kFar = 1 << 20;
-    x1 = std::clamp(x1, -kFar, kFar);
-    x2 = std::clamp(x2, -kFar, kFar);
-    y1 = std::clamp(y1, -kFar, kFar);
-    y2 = std::clamp(y2, -kFar, kFar);
+    constexpr int LINE_END_LIMIT = 1 << 20;
+    x1 = std::clamp(x1, -LINE_END_LIMIT, LINE_END_LIMIT);
+    x2 = std::clamp(x2, -LINE_END_LIMIT, LINE_END_LIMIT);
+    y1 = std::clamp(y1, -LINE_END_LIMIT, LINE_END_LIMIT);
+    y2 = std::clamp(y2, -LINE_END_LIMIT, LINE_END_LIMIT);
     const unsigned alpha = AlphaOf(colour);
     const int dx = std::abs(x2 - x1), sx = x1 < x2 ? 1 : -1;
     const int dy = -std::abs(y2 - y1), sy = y1 < y2 ? 1 : -1;
@@ -116,35 +116,39 @@ void RasterCanvas::DrawTextRun(int x, int y, const std::u32string& text, int siz
     for (char32_t c : text) {
         if (c == U'\n') {
             penX = x;
-            lineTop += size + FontRenderer::kLineGap;
+            lineTop += size + FontRenderer::LINE_GAP;
             continue;
         }
+        // Each glyph starts at its own cell, whatever the face's advance, so runs and lines land where the
+        // layout put them.
+        const int cellX = penX;
+        penX += FontRenderer::CellWidth(c, size);
         const Glyph* glyph = font.GetGlyph(c, size);
-        if (!glyph) {
-            penX += size / 2;
-            continue;
+        if (!glyph) continue;
+        DrawGlyph(*glyph, cellX + glyph->left, lineTop + baselineOffset - glyph->top, colour, colourAlpha,
+                  antialias);
+    }
+}
+
+void RasterCanvas::DrawGlyph(const Glyph& glyph, int left, int top, DWORD colour, unsigned colourAlpha,
+                             bool antialias) {
+    const Rect box = Rect{left, top, glyph.width, glyph.rows}.Intersect(m_clip);
+    for (int row = box.y; row < box.Bottom(); ++row) {
+        const std::uint8_t* coverage = &glyph.coverage[static_cast<std::size_t>(row - top) * glyph.width];
+        for (int col = box.x; col < box.Right(); ++col) {
+            unsigned value = coverage[col - left];
+            if (!antialias) value = value >= HARD_EDGE_THRESHOLD ? FULL_ALPHA : 0;
+            BlendPixel(col, row, colour, Scale(value, colourAlpha));
         }
-        const int left = penX + glyph->left;
-        const int top = lineTop + baselineOffset - glyph->top;
-        const Rect box = Rect{left, top, glyph->width, glyph->rows}.Intersect(m_clip);
-        for (int row = box.y; row < box.Bottom(); ++row) {
-            for (int col = box.x; col < box.Right(); ++col) {
-                unsigned coverage =
-                    glyph->coverage[static_cast<std::size_t>(row - top) * glyph->width + (col - left)];
-                if (!antialias) coverage = coverage >= kHardEdgeThreshold ? kOpaque : 0;
-                BlendPixel(col, row, colour, Scale(coverage, colourAlpha));
-            }
-        }
-        penX += glyph->advance;
     }
 }
 
 void RasterCanvas::Text(int x, int y, const std::u32string& text, const TextStyle& style) {
     if (text.empty()) return;
     const int size = FontRenderer::ClampSize(style.size);
-    if (style.effect == kTextEffectShadow) {
+    if (style.effect == TEXT_EFFECT_SHADOW) {
         DrawTextRun(x + 1, y + 1, text, size, style.effectColour, style.antialias);
-    } else if (style.effect == kTextEffectOutline) {
+    } else if (style.effect == TEXT_EFFECT_OUTLINE) {
         for (int dy = -1; dy <= 1; ++dy) {
             for (int dx = -1; dx <= 1; ++dx) {
                 if (dx != 0 || dy != 0)

@@ -8,6 +8,8 @@
 
 namespace gfx {
 
+struct Glyph;
+
 class RasterCanvas final : public ICanvas {
 public:
     void Begin(int width, int height, DWORD clearColour) override;
@@ -23,6 +25,8 @@ public:
     void DrawImage(const Image& image, const Rect& src, const Rect& dst, int alpha) override;
     void BeginCompound(const host::DrawOp&) override {}
     void EndCompound() override {}
+    void BeginWindow(const WindowTag&) override {}
+    void EndWindow() override {}
 
     const std::vector<std::uint8_t>& Pixels() const { return m_pixels; }
     /// 0xAARRGGBB of one pixel (0 outside the frame).
@@ -32,6 +36,8 @@ private:
     /// Blends an ARGB colour whose alpha has already been scaled (0..255) into one pixel inside the clip.
     void BlendPixel(int x, int y, DWORD colour, unsigned alpha);
     void DrawTextRun(int x, int y, const std::u32string& text, int size, DWORD colour, bool antialias);
+    /// Blends one glyph's coverage with its bitmap's top-left corner at (left, top).
+    void DrawGlyph(const Glyph& glyph, int left, int top, DWORD colour, unsigned colourAlpha, bool antialias);
 
     int m_width = 0;
     int m_height = 0;

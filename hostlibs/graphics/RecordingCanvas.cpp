@@ -5,18 +5,18 @@
 #include <cstdlib>
 
 #include "FontRenderer.h"
-#include "TextCodec.h"
+#include "text/Utf8.h"
 
 namespace gfx {
 namespace {
-// The pixels an operation may touch; lines and zero-sized operations count one pixel wide.
-Rect Bounds(const host::DrawOp& op) {
-    if (op.kind == "line") {
-        const int left = std::min(op.x, SaturatedAdd(op.x, op.w));
-        const int top = std::min(op.y, SaturatedAdd(op.y, op.h));
-        return {left, top, SaturatedAdd(std::llabs(op.w), 1), SaturatedAdd(std::llabs(op.h), 1)};
-    }
-    return {op.x, op.y, std::max(op.w, 1), std::max(op.h, 1)};
+// Zero-sized operations count one pixel wide.
+Rect AtLeastOnePixel(const Rect& rc) {
+    return {rc.x, rc.y, std::max(rc.w, 1), std::max(rc.h, 1)};
+}
+
+bool Inside(const Rect& inner, const Rect& outer) {
+    return inner.x >= outer.x && inner.y >= outer.y && inner.Right() <= outer.Right() &&
+           inner.Bottom() <= outer.Bottom();
 }
 } // namespace
 
@@ -27,12 +27,17 @@ void RecordingCanvas::Begin(int width, int height, DWORD) {
     m_compoundDepth = 0;
     m_ops.clear();
     m_dropped = 0;
+    m_windows.clear();
+    m_overflows.clear();
 }
 
-void RecordingCanvas::Record(host::DrawOp op) {
-    if (m_compoundDepth > 0) return;
-    if (Bounds(op).Intersect(m_clip).Empty()) return;
-    if (m_ops.size() >= host::kMaxRecordedOps) {
+// NOTE: the primitives return at once inside a compound: its parts are never recorded, so neither their
+// operation nor a text's measure and UTF-8 form is worth building.
+
+void RecordingCanvas::Record(host::DrawOp op, const Rect& bounds, Content content) {
+    if (content == Content::TextOrPicture) CheckInsideWindow(op, bounds);
+    if (bounds.Intersect(m_clip).Empty()) return;
+    if (m_ops.size() >= host::MAX_RECORDED_OPS) {
         ++m_dropped;
         return;
     }
@@ -40,43 +45,68 @@ void RecordingCanvas::Record(host::DrawOp op) {
 }
 
 void RecordingCanvas::FillRect(const Rect& rc, DWORD colour) {
-    if (rc.Empty()) return;
-    Record(OpBuilder("block", rc).Colour(colour));
+    if (rc.Empty() || m_compoundDepth > 0) return;
+    Record(OpBuilder("block", rc).Colour(colour), rc, Content::Shape);
 }
 
 void RecordingCanvas::OutlineRect(const Rect& rc, DWORD colour) {
-    if (rc.Empty()) return;
-    Record(OpBuilder("rect", rc).Colour(colour));
+    if (rc.Empty() || m_compoundDepth > 0) return;
+    Record(OpBuilder("rect", rc).Colour(colour), rc, Content::Shape);
 }
 
 void RecordingCanvas::Line(int x1, int y1, int x2, int y2, DWORD colour) {
-    Record(OpBuilder("line", {x1, y1, SaturatedAdd(x2, -static_cast<long long>(x1)),
-                              SaturatedAdd(y2, -static_cast<long long>(y1))})
-               .Colour(colour));
+    if (m_compoundDepth > 0) return;
+    const int dx = SaturatedAdd(x2, -static_cast<long long>(x1));
+    const int dy = SaturatedAdd(y2, -static_cast<long long>(y1));
+    const Rect bounds{std::min(x1, x2), std::min(y1, y2), SaturatedAdd(std::llabs(dx), 1),
+                      SaturatedAdd(std::llabs(dy), 1)};
+    Record(OpBuilder("line", {x1, y1, dx, dy}).Colour(colour), bounds, Content::Shape);
 }
 
 void RecordingCanvas::Text(int x, int y, const std::u32string& text, const TextStyle& style) {
-    if (text.empty()) return;
+    if (text.empty() || m_compoundDepth > 0) return;
     const int size = FontRenderer::ClampSize(style.size);
-    Record(OpBuilder("text", {x, y, FontRenderer::Instance().Measure(text, size),
-                              FontRenderer::MeasureHeight(text, size)})
-               .Colour(style.colour)
-               .Size(size)
-               .Text(TextCodec::Utf32ToUtf8(text)));
+    const Rect place{x, y, FontRenderer::Measure(text, size), FontRenderer::MeasureHeight(text, size)};
+    Record(OpBuilder("text", place).Colour(style.colour).Size(size).Text(txt::Utf8::FromUtf32(text)),
+           AtLeastOnePixel(place), Content::TextOrPicture);
 }
 
 void RecordingCanvas::DrawImage(const Image&, const Rect&, const Rect& dst, int alpha) {
-    if (dst.Empty()) return;
-    Record(OpBuilder("image", dst).Colour(static_cast<DWORD>(alpha)));
+    if (dst.Empty() || m_compoundDepth > 0) return;
+    Record(OpBuilder("image", dst).Colour(static_cast<DWORD>(alpha)), dst, Content::TextOrPicture);
 }
 
 void RecordingCanvas::BeginCompound(const host::DrawOp& op) {
-    Record(op);
+    // Every compound is a picture or a text: animations, nine-patches, effects, bitmaps, string resources.
+    if (m_compoundDepth == 0) Record(op, AtLeastOnePixel({op.x, op.y, op.w, op.h}), Content::TextOrPicture);
     ++m_compoundDepth;
 }
 
 void RecordingCanvas::EndCompound() {
     if (m_compoundDepth > 0) --m_compoundDepth;
+}
+
+void RecordingCanvas::BeginWindow(const WindowTag& window) {
+    m_windows.push_back(window);
+}
+
+void RecordingCanvas::EndWindow() {
+    if (!m_windows.empty()) m_windows.pop_back();
+}
+
+void RecordingCanvas::CheckInsideWindow(const host::DrawOp& op, const Rect& bounds) {
+    if (m_windows.empty() || Inside(bounds, m_windows.back().rect) ||
+        m_overflows.size() >= host::MAX_RECORDED_OPS)
+        return;
+    const WindowTag& window = m_windows.back();
+    const Rect seen = bounds.Intersect(m_clip);
+    host::DrawOverflow overflow;
+    overflow.op = op;
+    overflow.dialog = window.dialog;
+    overflow.control = window.control;
+    overflow.window = window.rect.ToRECT();
+    overflow.clipped = seen.Empty() || Inside(seen, window.rect);
+    m_overflows.push_back(std::move(overflow));
 }
 
 } // namespace gfx

@@ -8,7 +8,10 @@
 namespace gfx {
 
 /// Records each primitive, or each outermost compound instead of its parts. Operations wholly outside the
-/// clip rectangle are not recorded (they are not seen); at most host::kMaxRecordedOps are kept per frame.
+/// clip rectangle are not recorded (they are not seen); at most host::MAX_RECORDED_OPS are kept per frame.
+/// Checks every text and picture a window draws against the window's rectangle and keeps those that reach
+/// past it, marked as clipped when the clip hides all of them outside the window (at most
+/// host::MAX_RECORDED_OPS per frame as well).
 class RecordingCanvas final : public ICanvas {
 public:
     void Begin(int width, int height, DWORD clearColour) override;
@@ -24,12 +27,21 @@ public:
     void DrawImage(const Image& image, const Rect& src, const Rect& dst, int alpha) override;
     void BeginCompound(const host::DrawOp& op) override;
     void EndCompound() override;
+    void BeginWindow(const WindowTag& window) override;
+    void EndWindow() override;
 
     const std::vector<host::DrawOp>& Ops() const { return m_ops; }
     std::size_t Dropped() const { return m_dropped; }
+    const std::vector<host::DrawOverflow>& Overflows() const { return m_overflows; }
 
 private:
-    void Record(host::DrawOp op);
+    /// Texts and pictures are checked against the window drawing them; shapes are the toolkit's own marks
+    /// (selections, carets, bars).
+    enum class Content { Shape, TextOrPicture };
+    /// Keeps op, which touches the pixels of bounds, unless it is wholly outside the clip.
+    void Record(host::DrawOp op, const Rect& bounds, Content content);
+    /// Keeps op when it reaches past the window drawing it.
+    void CheckInsideWindow(const host::DrawOp& op, const Rect& bounds);
 
     int m_width = 0;
     int m_height = 0;
@@ -37,6 +49,8 @@ private:
     int m_compoundDepth = 0;
     std::vector<host::DrawOp> m_ops;
     std::size_t m_dropped = 0;
+    std::vector<WindowTag> m_windows; ///< open windows, innermost last
+    std::vector<host::DrawOverflow> m_overflows;
 };
 
 } // namespace gfx

@@ -10,6 +10,8 @@
 #include "LuCtrl.h"
 #include "LuDialog.h"
 #include "LuEdit.h"
+#include "LuGui_internal.h"
+#include "WindowClip.h"
 #include "PostedMessages.h"
 #include "hostlibs/HostEnv.h"
 
@@ -54,9 +56,9 @@ void CGuiMgr::Release() {
     // The dialogs are the caller's and outlive the manager: they must not keep pointing at it, nor at the
     // layout records it owns.
     for (CLuDialog* pDialog : m_vecDialogs) {
-        for (CLuCtrl* pCtrl : pDialog->GetControls())
-            pCtrl->Attach(nullptr, pDialog, pCtrl->GetDlgCtrlID(), nullptr);
-        pDialog->Attach(nullptr, nullptr, pDialog->GetTemplateId(), nullptr);
+        for (CLuCtrl* pCtrl : CLuToolkit::Controls(*pDialog))
+            CLuToolkit::Attach(*pCtrl, nullptr, pDialog, pCtrl->GetDlgCtrlID(), nullptr);
+        CLuToolkit::Attach(*pDialog, nullptr, nullptr, pDialog->GetTemplateId(), nullptr);
     }
     delete this;
 }
@@ -75,9 +77,9 @@ const CLuLayoutRecord* CGuiMgr::FindLayout(const char* szSection) const {
 bool CGuiMgr::RegisterDialog(CLuDialog* pDialog, int, int) {
     if (!pDialog) return false;
     host::Journal("gui.register", {{"id", std::to_string(pDialog->GetTemplateId())}});
-    pDialog->ClearForCreation();
-    pDialog->Attach(this, nullptr, pDialog->GetTemplateId(),
-                    m_layout.Find(CLayoutFile::DialogSection(pDialog->GetTemplateId())));
+    CLuToolkit::ClearForCreation(*pDialog);
+    CLuToolkit::Attach(*pDialog, this, nullptr, pDialog->GetTemplateId(),
+                       m_layout.Find(CLayoutFile::DialogSection(pDialog->GetTemplateId())));
     pDialog->CLuBaseWindow::ShowWindow(SW_HIDE);
     if (std::find(m_vecDialogs.begin(), m_vecDialogs.end(), pDialog) == m_vecDialogs.end())
         m_vecDialogs.push_back(pDialog);
@@ -100,12 +102,12 @@ void CGuiMgr::Process() {
     // Activation may show or hide dialogs, which edits the list: take the due ones out first.
     std::vector<CLuDialog*> due;
     std::erase_if(m_vecPending, [&](const SPendingActivation& p) {
-        if (dwNow - p.dwShownAt < p.pDialog->GetOpenInactiveMs()) return false;
+        if (dwNow - p.dwShownAt < CLuToolkit::OpenInactiveMs(*p.pDialog)) return false;
         due.push_back(p.pDialog);
         return true;
     });
     for (CLuDialog* pDialog : due)
-        if (pDialog->IsWindowVisible()) pDialog->Activate();
+        if (pDialog->IsWindowVisible()) CLuToolkit::Activate(*pDialog);
     ShowHoverTip();
 }
 
@@ -123,8 +125,13 @@ void CGuiMgr::KeepTopMostOnTop() {
 }
 
 void CGuiMgr::Show() {
-    for (CLuDialog* pDialog : m_vecDialogs)
-        if (pDialog->IsWindowVisible()) pDialog->Show();
+    for (CLuDialog* pDialog : m_vecDialogs) {
+        if (!pDialog->IsWindowVisible()) continue;
+        // A dialog draws its controls and then what it adds itself; all of it stays inside the dialog. Tips
+        // are the manager's and may cross dialogs.
+        const WindowClip clip(*pDialog);
+        pDialog->Show();
+    }
     DrawTips();
 }
 
@@ -137,7 +144,7 @@ void CGuiMgr::ShowHoverTip() {
     POINT pt{};
     GetCursorPos(&pt);
     CLuDialog* pDialog = DialogAt(pt);
-    CLuCtrl* pCtrl = pDialog ? pDialog->ControlAt(pt, true) : nullptr;
+    CLuCtrl* pCtrl = pDialog ? CLuToolkit::ControlAt(*pDialog, pt, true) : nullptr;
     if (!pCtrl || !*pCtrl->GetTipText()) return;
     const RECT rc = pCtrl->GetWindowRect();
     ShowTip(pCtrl->GetTipText(), rc.left, rc.bottom + TIP_PADDING, pCtrl->GetTipColor());
@@ -170,7 +177,8 @@ void CGuiMgr::Reset(int) {
 void CGuiMgr::OnDialogShown(CLuDialog* pDialog, bool bShown) {
     std::erase_if(m_vecPending, [&](const SPendingActivation& p) { return p.pDialog == pDialog; });
     if (bShown) {
-        if (pDialog->GetOpenInactiveMs() > 0) m_vecPending.push_back(SPendingActivation{pDialog, TimeGet()});
+        if (CLuToolkit::OpenInactiveMs(*pDialog) > 0)
+            m_vecPending.push_back(SPendingActivation{pDialog, TimeGet()});
         return;
     }
     if (m_pFocusEdit && m_pFocusEdit->GetParentDialog() == pDialog) m_pFocusEdit = nullptr;
@@ -204,7 +212,7 @@ CLuDialog* CGuiMgr::DialogAt(POINT pt) const {
     for (auto it = m_vecDialogs.rbegin(); it != m_vecDialogs.rend(); ++it) {
         CLuDialog* pDialog = *it;
         if (!pDialog->IsWindowVisible() || !pDialog->IsWindowEnabled() || pDialog->IsHideState()) continue;
-        if (pDialog->HitTest(pt) || pDialog->ControlAt(pt, true)) return pDialog;
+        if (pDialog->HitTest(pt) || CLuToolkit::ControlAt(*pDialog, pt, true)) return pDialog;
     }
     return nullptr;
 }

@@ -31,9 +31,16 @@ public:
     void SetFocusEdit(CLuEdit* pEdit) override { m_pFocusEdit = pEdit; }
     const CLuLayoutRecord* FindLayout(const char* szSection) const override;
     HWND GetHostWindow() const override { return m_hHostWnd; }
-    void OnDialogShown(CLuDialog* pDialog, bool bShown) override;
-    void BringToTop(CLuDialog* pDialog) override;
-    void ForgetDialog(CLuDialog* pDialog) override;
+
+    // ---- what dialogs report --------------------------------------------------------------------
+
+    /// A dialog was shown or hidden: activation after "OpenInactive", and a hidden dialog drops the focus,
+    /// the capture and the attention.
+    void OnDialogShown(CLuDialog* pDialog, bool bShown);
+    /// Moves a dialog to the top of the drawing order (below the top-most ones unless it is one).
+    void BringToTop(CLuDialog* pDialog);
+    /// A registered dialog is being destroyed: the manager forgets it and its controls.
+    void ForgetDialog(CLuDialog* pDialog);
 
     /// The registered dialog with that template id, null when none.
     CLuDialog* FindDialog(UINT nTemplateId) const;

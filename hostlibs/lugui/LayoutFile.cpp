@@ -5,12 +5,10 @@
 #include <cctype>
 
 #include "Log.h"
+#include "text/IniDocument.h"
 
 namespace LuGui {
 namespace {
-
-// Lines are read in pieces of this size and joined again.
-constexpr int MAX_LAYOUT_LINE = 2048;
 
 std::string ToLower(std::string_view s) {
     std::string out(s);
@@ -18,68 +16,45 @@ std::string ToLower(std::string_view s) {
     return out;
 }
 
-std::string_view Trim(std::string_view s) {
-    const auto begin = s.find_first_not_of(" \t\r\n");
-    if (begin == std::string_view::npos) return {};
-    const auto end = s.find_last_not_of(" \t\r\n");
-    return s.substr(begin, end - begin + 1);
+void Report(const txt::IniIssue& issue, const char* szFile) {
+    using Kind = txt::IniIssue::Kind;
+    switch (issue.kind) {
+    case Kind::UnclosedSection:
+    case Kind::EmptySectionName:
+        LogMsg("layout %s, line %d: bad section", szFile, issue.line);
+        return;
+    case Kind::RepeatedSection:
+        LogMsg("layout %s, line %d: section [%s] repeated, first kept", szFile, issue.line,
+               issue.name.c_str());
+        return;
+    case Kind::MissingEquals:
+    case Kind::EmptyKey:
+        LogMsg("layout %s, line %d: no key", szFile, issue.line);
+        return;
+    case Kind::RepeatedKey:
+        LogMsg("layout %s, line %d: key %s repeated, first kept", szFile, issue.line, issue.name.c_str());
+        return;
+    case Kind::OutsideSection:
+        return; // keys outside a section describe nothing
+    }
 }
 
 } // namespace
 
 bool CLayoutFile::Load(const char* szFile) {
-    ZrFile* pFile = Safefopen(szFile, "rb");
-    if (!pFile) return false;
-    std::string text;
-    char buf[MAX_LAYOUT_LINE];
-    while (Safefgets(buf, sizeof buf, pFile)) text += buf;
-    Safefclose(pFile);
-    Parse(text, szFile);
+    const auto text = szFile ? txt::IniDocument::ReadClientFile(szFile) : std::nullopt;
+    if (!text) return false;
+    Parse(*text, szFile);
     return true;
 }
 
-void CLayoutFile::Parse(const std::string& strText, const char* szFile) {
-    CLuLayoutRecord* pCurrent = nullptr;
-    std::size_t pos = 0;
-    int nLine = 0;
-    while (pos < strText.size()) {
-        std::size_t end = strText.find('\n', pos);
-        if (end == std::string::npos) end = strText.size();
-        ParseLine(std::string_view(strText).substr(pos, end - pos), ++nLine, szFile, pCurrent);
-        pos = end + 1;
+void CLayoutFile::Parse(std::string_view text, const char* szFile) {
+    const txt::IniDocument doc = txt::IniDocument::Parse(text, txt::LAYOUT_RULES);
+    for (const txt::IniIssue& issue : doc.Issues()) Report(issue, szFile);
+    for (const txt::IniSection& section : doc.Sections()) {
+        CLuLayoutRecord& record = m_mapRecords.try_emplace(ToLower(section.name), section.name).first->second;
+        for (const txt::IniEntry& entry : section.entries) record.AddValue(entry.key, entry.value);
     }
-}
-
-void CLayoutFile::ParseLine(std::string_view line, int nLine, const char* szFile,
-                            CLuLayoutRecord*& pCurrent) {
-    line = Trim(line);
-    if (line.empty() || line.front() == ';' || line.front() == '#') return;
-    if (line.front() == '[') {
-        const auto close = line.find(']');
-        const std::string_view name =
-            close == std::string_view::npos ? std::string_view{} : Trim(line.substr(1, close - 1));
-        if (name.empty()) {
-            LogMsg("layout %s, line %d: bad section", szFile, nLine);
-            pCurrent = nullptr;
-            return;
-        }
-        auto [it, inserted] = m_mapRecords.try_emplace(ToLower(name), std::string(name));
-        if (!inserted)
-            LogMsg("layout %s, line %d: section [%.*s] repeated, first kept", szFile, nLine,
-                   static_cast<int>(name.size()), name.data());
-        pCurrent = inserted ? &it->second : nullptr;
-        return;
-    }
-    const auto eq = line.find('=');
-    if (eq == std::string_view::npos || Trim(line.substr(0, eq)).empty()) {
-        LogMsg("layout %s, line %d: no key", szFile, nLine);
-        return;
-    }
-    if (!pCurrent) return; // keys outside a section, or of a repeated section
-    const std::string_view key = Trim(line.substr(0, eq));
-    if (!pCurrent->AddValue(std::string(key), std::string(Trim(line.substr(eq + 1)))))
-        LogMsg("layout %s, line %d: key %.*s repeated, first kept", szFile, nLine,
-               static_cast<int>(key.size()), key.data());
 }
 
 const CLuLayoutRecord* CLayoutFile::Find(const std::string& strSection) const {

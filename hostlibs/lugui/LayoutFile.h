@@ -17,7 +17,7 @@ public:
     /// Reads the file below the client directory; false (and nothing read) when it cannot be opened.
     bool Load(const char* szFile);
     /// Parses text as the content of a file named szFile (for messages).
-    void Parse(const std::string& strText, const char* szFile);
+    void Parse(std::string_view text, const char* szFile);
     /// The record of a section, null when there is none (matched without regard to case).
     const CLuLayoutRecord* Find(const std::string& strSection) const;
     std::size_t GetRecordCount() const { return m_mapRecords.size(); }
@@ -33,8 +33,6 @@ public:
     static int ReadNumbers(const char* sz, int* pOut, int nMax);
 
 private:
-    void ParseLine(std::string_view line, int nLine, const char* szFile, CLuLayoutRecord*& pCurrent);
-
     std::unordered_map<std::string, CLuLayoutRecord> m_mapRecords; ///< by lower-cased section name
 };
 

@@ -11,6 +11,7 @@
 #include "LayoutFile.h"
 #include "LuDialog.h"
 #include "LuGui.h"
+#include "LuGui_internal.h"
 #include "LuLayoutRecord.h"
 #include "PostedMessages.h"
 
@@ -113,7 +114,7 @@ BOOL CLuBaseWindow::SetWindowPos(const CLuBaseWindow* pInsertAfter, int x, int y
     const int nH = (nFlags & SWP_NOSIZE) ? GetHeight() : cy;
     MoveWindow(nX, nY, nW, nH, FALSE);
     if (!(nFlags & SWP_NOZORDER) && !pInsertAfter && !m_pParent && m_pGuiMgr)
-        m_pGuiMgr->BringToTop(static_cast<CLuDialog*>(this));
+        CLuToolkit::Manager(*this)->BringToTop(static_cast<CLuDialog*>(this));
     if (nFlags & SWP_SHOWWINDOW) ShowWindow(SW_SHOW);
     if (nFlags & SWP_HIDEWINDOW) ShowWindow(SW_HIDE);
     return TRUE;
@@ -175,12 +176,13 @@ void CLuBaseWindow::SetWindowTextA(const char* szText) {
 
 // ---- layout --------------------------------------------------------------------------------------
 
-void CLuBaseWindow::Attach(ILuGuiMgr* pMgr, CLuDialog* pParent, UINT nId, const CLuLayoutRecord* pLayout) {
-    m_pGuiMgr = pMgr;
-    m_pParent = pParent;
-    m_nId = nId;
-    m_pLayout = pLayout;
-    ApplyLayout();
+void CLuToolkit::Attach(CLuBaseWindow& wnd, ILuGuiMgr* pMgr, CLuDialog* pParent, UINT nId,
+                        const CLuLayoutRecord* pLayout) {
+    wnd.m_pGuiMgr = pMgr;
+    wnd.m_pParent = pParent;
+    wnd.m_nId = nId;
+    wnd.m_pLayout = pLayout;
+    wnd.ApplyLayout();
 }
 
 namespace {

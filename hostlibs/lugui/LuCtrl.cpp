@@ -54,8 +54,11 @@ void CLuCtrl::ShowWindowText() {
     const int nFont = m_sizeFont.cy > 0 ? m_sizeFont.cy : CMyBitmap::GetFontSize();
     int x = rc.left;
     if (m_nAlign != LU_ALIGN_LEFT) {
+        // NOTE: a text wider than the control starts at its left edge, whatever the alignment: the clip cuts
+        // it at the right edge, and the start of a long name stays readable.
         const int nTextWidth = CMyBitmap::GetStringWidth(m_strText.c_str(), nFont);
-        x = m_nAlign == LU_ALIGN_CENTER ? rc.left + (GetWidth() - nTextWidth) / 2 : rc.right - nTextWidth;
+        const int nRoom = std::max(0, GetWidth() - nTextWidth);
+        x = rc.left + (m_nAlign == LU_ALIGN_CENTER ? nRoom / 2 : nRoom);
     }
     const int y = rc.top + std::max(0, (GetHeight() - nFont) / 2);
     CMyBitmap::ShowString(x, y, m_dwFontColor, m_strText.c_str(), CMyBitmap::GetDefaultFontName(), nFont);
@@ -91,9 +94,14 @@ LRESULT CLuCtrl::WindowProc(UINT uMsg, WPARAM wParam, LPARAM lParam) {
         if (bClicked) OnClicked();
         return 1;
     }
-    case WM_MOUSEMOVE:
-        OnMouseMove(nFlags, pt);
+    case WM_MOUSEMOVE: {
+        // NOTE: a move reaches the control in its own client coordinates (presses and releases stay in screen
+        // coordinates): the edits' drag selection counts characters from the edit's left edge.
+        POINT ptClient = pt;
+        ScreenToClient(&ptClient);
+        OnMouseMove(nFlags, ptClient);
         return 1;
+    }
     case WM_RBUTTONDOWN:
         OnRButtonDown(nFlags, pt);
         return 1;

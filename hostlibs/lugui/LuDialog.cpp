@@ -11,7 +11,9 @@
 #include "LuCtrl.h"
 #include "LuEdit.h"
 #include "LuGui.h"
+#include "LuGui_internal.h"
 #include "LuLayoutRecord.h"
+#include "WindowClip.h"
 
 namespace LuGui {
 
@@ -24,14 +26,14 @@ void DDX_Control(CDataExchange* pDX, int nIDC, CLuCtrl& rControl) {
         pMgr ? pMgr->FindLayout(CLayoutFile::ControlSection(pDialog->GetTemplateId(), nId).c_str()) : nullptr;
     // NOTE: controls are visible unless the layout hides them; dialogs start hidden.
     rControl.ShowWindow(SW_SHOW);
-    rControl.Attach(pMgr, pDialog, nId, pLayout);
+    CLuToolkit::Attach(rControl, pMgr, pDialog, nId, pLayout);
     if (pLayout) {
         const char* szKind = pLayout->GetValue("Kind");
         if (szKind && ::strcasecmp(szKind, CtrlKindName(rControl.GetKind())) != 0)
             LogMsg("layout %s: a %s is bound as a %s", pLayout->GetName(), szKind,
                    CtrlKindName(rControl.GetKind()));
     }
-    pDialog->AddControl(&rControl);
+    CLuToolkit::AddControl(*pDialog, rControl);
     rControl.PreInitData();
     rControl.InitData();
 }
@@ -41,7 +43,7 @@ CLuDialog::CLuDialog(UINT nIDTemplate, CLuBaseWindow*) : m_nIDTemplate(nIDTempla
 }
 
 CLuDialog::~CLuDialog() {
-    if (m_pGuiMgr) m_pGuiMgr->ForgetDialog(this);
+    if (CGuiMgr* pMgr = CLuToolkit::Manager(*this)) pMgr->ForgetDialog(this);
 }
 
 // ---- overridable ---------------------------------------------------------------------------------
@@ -56,9 +58,13 @@ BOOL CLuDialog::PreInitData() {
 
 int CLuDialog::Show() {
     if (!m_bVisible || m_bHideState) return 0;
+    const WindowClip dialogClip(*this);
     ShowBackGround();
-    for (CLuCtrl* pCtrl : m_vecCtrls)
-        if (pCtrl->IsWindowVisible()) pCtrl->Show();
+    for (CLuCtrl* pCtrl : m_vecCtrls) {
+        if (!pCtrl->IsWindowVisible()) continue;
+        const WindowClip controlClip(*pCtrl);
+        pCtrl->Show();
+    }
     return 1;
 }
 
@@ -97,20 +103,20 @@ BOOL CLuDialog::ShowWindow(int nCmdShow) {
     const BOOL bWasVisible = CLuBaseWindow::ShowWindow(nCmdShow);
     const bool bShown = nCmdShow != SW_HIDE;
     if (bShown) m_bInactive = m_dwOpenInactiveMs > 0;
-    if (m_pGuiMgr) m_pGuiMgr->OnDialogShown(this, bShown);
+    if (CGuiMgr* pMgr = CLuToolkit::Manager(*this)) pMgr->OnDialogShown(this, bShown);
     if (nCmdShow == SW_SHOW) OnInitDialog();
     if ((bWasVisible != FALSE) != bShown) WindowProc(WM_SHOWWINDOW, bShown ? 1 : 0, 0);
     return bWasVisible;
 }
 
-void CLuDialog::Activate() {
-    if (!m_bInactive) return;
-    m_bInactive = false;
-    WindowProc(LU_MSG_ACTIVATE, 0, 0);
+void CLuToolkit::Activate(CLuDialog& dlg) {
+    if (!dlg.m_bInactive) return;
+    dlg.m_bInactive = false;
+    dlg.WindowProc(LU_MSG_ACTIVATE, 0, 0);
 }
 
 void CLuDialog::BringWindowToTop() {
-    if (m_pGuiMgr) m_pGuiMgr->BringToTop(this);
+    if (CGuiMgr* pMgr = CLuToolkit::Manager(*this)) pMgr->BringToTop(this);
 }
 
 // ---- message map ---------------------------------------------------------------------------------
@@ -141,15 +147,15 @@ bool CLuDialog::DispatchMsgMap(UINT uMsg, UINT nId) {
 
 // ---- controls ------------------------------------------------------------------------------------
 
-void CLuDialog::AddControl(CLuCtrl* pCtrl) {
-    if (pCtrl && std::find(m_vecCtrls.begin(), m_vecCtrls.end(), pCtrl) == m_vecCtrls.end())
-        m_vecCtrls.push_back(pCtrl);
+void CLuToolkit::AddControl(CLuDialog& dlg, CLuCtrl& ctrl) {
+    if (std::find(dlg.m_vecCtrls.begin(), dlg.m_vecCtrls.end(), &ctrl) == dlg.m_vecCtrls.end())
+        dlg.m_vecCtrls.push_back(&ctrl);
 }
 
-void CLuDialog::ClearForCreation() {
-    m_vecCtrls.clear();
-    m_vecMsgMap.clear();
-    m_pCapture = nullptr;
+void CLuToolkit::ClearForCreation(CLuDialog& dlg) {
+    dlg.m_vecCtrls.clear();
+    dlg.m_vecMsgMap.clear();
+    dlg.m_pCapture = nullptr;
 }
 
 CLuCtrl* CLuDialog::GetControl(UINT nId) const {

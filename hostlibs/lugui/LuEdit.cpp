@@ -7,6 +7,7 @@
 
 #include "Graphics.h"
 #include "LuGui.h"
+#include "text/Utf8.h"
 
 namespace LuGui {
 namespace {
@@ -15,44 +16,10 @@ constexpr DWORD CARET_BLINK_MS = 500;
 constexpr DWORD SELECTION_COLOUR = 0x803399FF;
 constexpr UINT CHAR_BACKSPACE = 8;
 
-bool IsContinuation(unsigned char c) {
-    return (c & 0xC0) == 0x80;
-}
-
-// UTF-16 code point to UTF-8.
-std::string EncodeUtf8(UINT cp) {
-    std::string out;
-    if (cp < 0x80) {
-        out += static_cast<char>(cp);
-    } else if (cp < 0x800) {
-        out += static_cast<char>(0xC0 | (cp >> 6));
-        out += static_cast<char>(0x80 | (cp & 0x3F));
-    } else if (cp < 0x10000) {
-        out += static_cast<char>(0xE0 | (cp >> 12));
-        out += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
-        out += static_cast<char>(0x80 | (cp & 0x3F));
-    } else {
-        out += static_cast<char>(0xF0 | (cp >> 18));
-        out += static_cast<char>(0x80 | ((cp >> 12) & 0x3F));
-        out += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
-        out += static_cast<char>(0x80 | (cp & 0x3F));
-    }
-    return out;
-}
-
-// The longest prefix of text within nLimit bytes that does not end inside a character.
-std::size_t CutAtCharacter(const std::string& text, std::size_t nLimit) {
-    if (text.size() <= nLimit) return text.size();
-    std::size_t n = nLimit;
-    while (n > 0 && IsContinuation(static_cast<unsigned char>(text[n]))) --n;
-    return n;
-}
-
 // One star per character.
 std::string Stars(std::string_view text) {
     std::string stars;
-    for (unsigned char c : text)
-        if (!IsContinuation(c)) stars += '*';
+    for (std::size_t pos = 0; pos < text.size(); pos = txt::Utf8::NextBoundary(text, pos)) stars += '*';
     return stars;
 }
 
@@ -125,7 +92,9 @@ void CLuEdit::OnChar(UINT nChar, UINT, UINT) {
     }
     m_nHighSurrogate = 0;
     if (cp < 0x20 || cp == 0x7F) return;
-    ReplaceSelection(EncodeUtf8(cp));
+    std::string typed;
+    txt::Utf8::Append(typed, cp);
+    ReplaceSelection(typed);
 }
 
 void CLuEdit::OnKeyDown(UINT nChar, UINT, UINT) {
@@ -176,26 +145,18 @@ void CLuEdit::NotifyChanged(bool bText) {
 }
 
 int CLuEdit::PrevCharIndex(int nIndex) const {
-    int n = std::clamp(nIndex, 0, static_cast<int>(m_strText.size()));
-    if (n == 0) return 0;
-    --n;
-    while (n > 0 && IsContinuation(static_cast<unsigned char>(m_strText[static_cast<std::size_t>(n)]))) --n;
-    return n;
+    const int n = std::clamp(nIndex, 0, static_cast<int>(m_strText.size()));
+    return static_cast<int>(txt::Utf8::PreviousBoundary(m_strText, static_cast<std::size_t>(n)));
 }
 
 int CLuEdit::NextCharIndex(int nIndex) const {
-    const int nLength = static_cast<int>(m_strText.size());
-    int n = std::clamp(nIndex, 0, nLength);
-    if (n == nLength) return n;
-    ++n;
-    while (n < nLength && IsContinuation(static_cast<unsigned char>(m_strText[static_cast<std::size_t>(n)])))
-        ++n;
-    return n;
+    const int n = std::clamp(nIndex, 0, static_cast<int>(m_strText.size()));
+    return static_cast<int>(txt::Utf8::NextBoundary(m_strText, static_cast<std::size_t>(n)));
 }
 
 void CLuEdit::SetWindowTextA(const char* szText) {
     std::string text = szText ? szText : "";
-    text.resize(CutAtCharacter(text, static_cast<std::size_t>(m_nLimitText)));
+    text.resize(txt::Utf8::CutAtBoundary(text, static_cast<std::size_t>(m_nLimitText)));
     m_strText = std::move(text);
     m_nSelStart = m_nSelEnd = static_cast<int>(m_strText.size());
 }

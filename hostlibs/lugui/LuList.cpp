@@ -120,6 +120,7 @@ int CLuList::Show() {
 }
 
 void CLuList::OnMouseMove(UINT, POINT point) {
+    ClientToScreen(&point);
     m_nHoverRow = RowAt(point);
 }
 

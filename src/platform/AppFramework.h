@@ -3,7 +3,7 @@
 
 #include "BaseLib.h"
 
-class HOSTLIB_API CWinApp {
+class CWinApp {
 public:
     CWinApp();
     virtual ~CWinApp();
@@ -17,4 +17,4 @@ public:
 };
 
 /// The instance handle of the module whose application object was constructed last (null before).
-HOSTLIB_API HINSTANCE AfxGetInstanceHandle();
+HINSTANCE AfxGetInstanceHandle();

@@ -10,54 +10,45 @@
 #include "ZrString.h"
 #include "flashsim/Win32Types.h"
 
-#if defined(_WIN32)
-#define HOSTLIB_API
-#else
-#define HOSTLIB_API __attribute__((visibility("default")))
-#endif
-
-// ---- safe conversions
-// ----------------------------------------------------------------------------------------------
+// ---- safe conversions ----------------------------------------------------------------------------
 
 /// Leading blanks, an optional sign and decimal digits ("12abc" reads 12); null or empty text reads 0; values
 /// beyond 32 bits saturate.
-HOSTLIB_API int SafeAtoi(const char* sz);
+int SafeAtoi(const char* sz);
 /// Writes nValue in base nRadix (2..36) into a buffer of nSize bytes, truncated but always terminated;
 /// returns szBuf.
-HOSTLIB_API char* SafeItoA(int nValue, char* szBuf, std::size_t nSize, int nRadix);
+char* SafeItoA(int nValue, char* szBuf, std::size_t nSize, int nRadix);
 /// strtoul with base nBase; null text reads 0, values beyond 32 bits saturate.
-HOSTLIB_API unsigned long SafeStrtoul(const char* sz, int nBase);
+unsigned long SafeStrtoul(const char* sz, int nBase);
 /// printf into a buffer of nSize bytes, truncated but always terminated; returns the number of bytes written.
-HOSTLIB_API int SafeSprintf(char* szBuf, std::size_t nSize, const char* szFormat, ...)
+int SafeSprintf(char* szBuf, std::size_t nSize, const char* szFormat, ...)
     __attribute__((format(printf, 3, 4)));
 /// Splits text at every occurrence of szSep. Code page 65001 (UTF-8) never splits inside a multi-byte
 /// character.
-HOSTLIB_API void Split(std::vector<CZrString>& vecOut, const char* szText, const char* szSep, UINT nCodePage);
+void Split(std::vector<CZrString>& vecOut, const char* szText, const char* szSep, UINT nCodePage);
 /// Replaces, in place, every character outside printable ASCII by "?" (one per character, UTF-8 aware), for
 /// clients that show English characters only; the text stays terminated within nSize bytes.
-HOSTLIB_API void ConverCodeToOnlyEnglish(char* szText, std::size_t nSize);
+void ConverCodeToOnlyEnglish(char* szText, std::size_t nSize);
 /// UTF-8 (code page 65001) or Latin-1 (anything else) to UTF-16.
-HOSTLIB_API std::u16string StringToWString(const char* sz, UINT nCodePage);
+std::u16string StringToWString(const char* sz, UINT nCodePage);
 
-// ---- files below the client directory
-// ------------------------------------------------------------------------------
+// ---- files below the client directory ------------------------------------------------------------
 
 /// An open file of the client directory (or, on the real client, of its packed archives).
 struct ZrFile;
 /// Opens szPath relative to the client directory; null when it cannot be opened.
-HOSTLIB_API ZrFile* Safefopen(const char* szPath, const char* szMode);
+ZrFile* Safefopen(const char* szPath, const char* szMode);
 /// Reads one line (with its line feed) into szBuf of nSize bytes; null at the end of the file.
-HOSTLIB_API char* Safefgets(char* szBuf, int nSize, ZrFile* pFile);
-HOSTLIB_API void Safefclose(ZrFile* pFile);
+char* Safefgets(char* szBuf, int nSize, ZrFile* pFile);
+void Safefclose(ZrFile* pFile);
 /// Writes nCount items of nSize bytes; returns how many items were written (fwrite).
-HOSTLIB_API std::size_t Safefwrite(const void* pData, std::size_t nSize, std::size_t nCount, ZrFile* pFile);
+std::size_t Safefwrite(const void* pData, std::size_t nSize, std::size_t nCount, ZrFile* pFile);
 /// The client directory (the game's current directory), as GetCurrentDirectoryA gives it.
-HOSTLIB_API std::string GetClientDirectory();
+std::string GetClientDirectory();
 /// Whether a file or folder exists (an absolute path, or one relative to the client directory).
-HOSTLIB_API BOOL PathFileExistsA(const char* szPath);
+BOOL PathFileExistsA(const char* szPath);
 
-// ---- languages
-// ------------------------------------------------------------------------------------------------------
+// ---- languages -----------------------------------------------------------------------------------
 
 /// One language the client offers.
 struct SLanguageInfo {
@@ -66,7 +57,7 @@ struct SLanguageInfo {
 };
 
 /// The client's languages and the current one (`g_objMultiLang`).
-class HOSTLIB_API CMultiLanguage {
+class CMultiLanguage {
 public:
     /// The languages, in the client's order.
     const std::vector<SLanguageInfo>& Infos();
@@ -80,37 +71,35 @@ public:
 private:
     std::vector<SLanguageInfo> m_vecInfos;
 };
-extern HOSTLIB_API CMultiLanguage g_objMultiLang;
+extern CMultiLanguage g_objMultiLang;
 
-// ---- time
-// -----------------------------------------------------------------------------------------------------------
+// ---- time ----------------------------------------------------------------------------------------
 
 /// Milliseconds of the host's clock (timeGetTime).
-HOSTLIB_API DWORD TimeGet();
-HOSTLIB_API DWORD GetTickCount();
+DWORD TimeGet();
+DWORD GetTickCount();
 /// The local calendar time as "YYYY-MM-DD HH:MM:SS".
-HOSTLIB_API std::string FormatSvrTime();
+std::string FormatSvrTime();
 /// Local calendar time broken down.
 struct SLocalTime {
     int nYear, nMonth, nDay, nHour, nMinute, nSecond;
 };
-HOSTLIB_API SLocalTime GetLocalCalendarTime();
+SLocalTime GetLocalCalendarTime();
 
 /// The current local time as seconds of the local calendar since 1970-01-01 00:00 (no time zone); false when
 /// the clock cannot be read.
-HOSTLIB_API bool GetSafeLocalTime(std::int64_t& nSeconds);
+bool GetSafeLocalTime(std::int64_t& nSeconds);
 /// Minutes since 1970-01-01 00:00 of the local calendar, as the seconds GetSafeLocalTime counts.
-HOSTLIB_API std::int64_t GetTimeFromIntervalMin(std::int64_t nMinutes);
+std::int64_t GetTimeFromIntervalMin(std::int64_t nMinutes);
 
 /// Last step reached by the per-frame calls, read by the host's crash dump.
-extern HOSTLIB_API int g_nDumpStep;
+extern int g_nDumpStep;
 
-// ---- threads
-// --------------------------------------------------------------------------------------------------------
+// ---- threads -------------------------------------------------------------------------------------
 
 using LPTHREAD_START_ROUTINE = DWORD (*)(void* pParam);
 
-class HOSTLIB_API CHandleHelper {
+class CHandleHelper {
 public:
     /// Starts a thread running pfn(pParam); returns its handle (close with CloseHandle) or null.
     static HANDLE CreateThreadProxy(void* pSecurity, std::size_t nStackSize, LPTHREAD_START_ROUTINE pfn,
@@ -120,48 +109,44 @@ public:
 inline constexpr DWORD CREATE_SUSPENDED = 0x4;
 /// Lets a thread created suspended run; returns its previous suspend count (1), or 0xFFFFFFFF for a handle
 /// that is no thread.
-HOSTLIB_API DWORD ResumeThread(HANDLE hThread);
+DWORD ResumeThread(HANDLE hThread);
 inline constexpr int THREAD_PRIORITY_NORMAL = 0;
 inline constexpr int THREAD_PRIORITY_ABOVE_NORMAL = 1;
 /// Records a thread's priority (on this platform threads all run at the process's priority).
-HOSTLIB_API BOOL SetThreadPriority(HANDLE hThread, int nPriority);
+BOOL SetThreadPriority(HANDLE hThread, int nPriority);
 inline constexpr DWORD INFINITE = 0xFFFFFFFFu;
 inline constexpr DWORD WAIT_OBJECT_0 = 0;
 inline constexpr DWORD WAIT_TIMEOUT = 258;
 /// Waits for a thread handle to end; only INFINITE is honoured exactly, any other time polls once.
-HOSTLIB_API DWORD WaitForSingleObject(HANDLE hHandle, DWORD dwMilliseconds);
+DWORD WaitForSingleObject(HANDLE hHandle, DWORD dwMilliseconds);
 /// Releases a thread or file handle (joining a thread that has ended, detaching one that has not).
-HOSTLIB_API BOOL CloseHandle(HANDLE hHandle);
+BOOL CloseHandle(HANDLE hHandle);
 
-// ---- INI files
-// ------------------------------------------------------------------------------------------------------
+// ---- INI files -----------------------------------------------------------------------------------
 
 /// Reads a key of a section of an INI file below the client directory into szBuf (nSize bytes, truncated,
 /// always terminated); szDefault when the file, the section or the key is missing. Sections and keys match
 /// without regard to case; blanks around keys and values are trimmed. Returns the number of bytes copied.
-HOSTLIB_API DWORD MyGetPrivateProfileString(const char* szSection, const char* szKey, const char* szDefault,
-                                            char* szBuf, DWORD nSize, const char* szFile);
+DWORD MyGetPrivateProfileString(const char* szSection, const char* szKey, const char* szDefault, char* szBuf,
+                                DWORD nSize, const char* szFile);
 /// The client's server-state INI file (web addresses, field placeholders, edition descriptions) and
 /// game-setup INI file (the last login), relative to the client directory.
-extern HOSTLIB_API const char* const g_pszIniServerState;
-extern HOSTLIB_API const char* const g_pszIniGameSetup;
+extern const char* const g_pszIniServerState;
+extern const char* const g_pszIniGameSetup;
 /// Reads a key as a decimal integer (SafeAtoi); nDefault when it is missing.
-HOSTLIB_API int MyGetPrivateProfileInt(const char* szSection, const char* szKey, int nDefault,
-                                       const char* szFile);
+int MyGetPrivateProfileInt(const char* szSection, const char* szKey, int nDefault, const char* szFile);
 
-// ---- shell
-// ----------------------------------------------------------------------------------------------------------
+// ---- shell ---------------------------------------------------------------------------------------
 
 /// Opens a document or web address with the system's shell; returns a value above 32 on success.
-HOSTLIB_API HINSTANCE ShellExecuteA(HWND hWnd, const char* szOperation, const char* szFile,
-                                    const char* szParameters, const char* szDirectory, int nShowCmd);
+HINSTANCE ShellExecuteA(HWND hWnd, const char* szOperation, const char* szFile, const char* szParameters,
+                        const char* szDirectory, int nShowCmd);
 
-// ---- sockets
-// --------------------------------------------------------------------------------------------------------
+// ---- sockets -------------------------------------------------------------------------------------
 
 struct WSADATA {
     WORD wVersion;
     WORD wHighVersion;
 };
-HOSTLIB_API int WSAStartup(WORD wVersionRequested, WSADATA* pData);
-HOSTLIB_API int WSACleanup();
+int WSAStartup(WORD wVersionRequested, WSADATA* pData);
+int WSACleanup();

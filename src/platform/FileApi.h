@@ -18,8 +18,8 @@ inline const HANDLE INVALID_HANDLE_VALUE = reinterpret_cast<HANDLE>(static_cast<
 /// open that asks for an access the first did not share, or that does not share an access the first holds,
 /// fails. CREATE_ALWAYS empties or creates the file, OPEN_EXISTING requires it. Folders are never created.
 /// Returns INVALID_HANDLE_VALUE on failure; close the handle with CloseHandle.
-HOSTLIB_API HANDLE CreateFileA(const char* szPath, DWORD dwDesiredAccess, DWORD dwShareMode, void* pSecurity,
+HANDLE CreateFileA(const char* szPath, DWORD dwDesiredAccess, DWORD dwShareMode, void* pSecurity,
                                DWORD dwCreationDisposition, DWORD dwFlagsAndAttributes, HANDLE hTemplateFile);
 /// Writes nBytes bytes; *pWritten receives how many were written. FALSE on failure.
-HOSTLIB_API BOOL WriteFile(HANDLE hFile, const void* pBuffer, DWORD nBytes, DWORD* pWritten,
+BOOL WriteFile(HANDLE hFile, const void* pBuffer, DWORD nBytes, DWORD* pWritten,
                            void* pOverlapped);

@@ -15,7 +15,7 @@ public:
 protected:
     ~IRoleData() = default;
 };
-HOSTLIB_API IRoleData* RoleDataQuery();
+IRoleData* RoleDataQuery();
 
 /// The settings data object (`RoleDataQueryEn`).
 class IRoleDataEn {
@@ -32,7 +32,7 @@ public:
 protected:
     ~IRoleDataEn() = default;
 };
-HOSTLIB_API IRoleDataEn* RoleDataQueryEn();
+IRoleDataEn* RoleDataQueryEn();
 
 /// The language data object (`RoleDataQueryEx`).
 class IRoleDataEx {
@@ -54,7 +54,7 @@ public:
 protected:
     ~IRoleDataEx() = default;
 };
-HOSTLIB_API IRoleDataEx* RoleDataQueryEx();
+IRoleDataEx* RoleDataQueryEx();
 
 /// The role library's game-data interface (`MyGameDataEnQuery`).
 class IMyGameDataEn {
@@ -65,7 +65,7 @@ public:
 protected:
     ~IMyGameDataEn() = default;
 };
-HOSTLIB_API IMyGameDataEn* MyGameDataEnQuery();
+IMyGameDataEn* MyGameDataEnQuery();
 
 /// The game data library's window records (`MyGameDataQuery`): places and sizes the client keeps per window
 /// number.
@@ -77,4 +77,4 @@ public:
 protected:
     ~IMyGameData() = default;
 };
-HOSTLIB_API IMyGameData* MyGameDataQuery();
+IMyGameData* MyGameDataQuery();

@@ -6,7 +6,7 @@
 #include "MyAni.h"
 
 /// The game data library's animation set.
-class HOSTLIB_API IGameDataSet {
+class IGameDataSet {
 public:
     /// The animation titled szTitle in the animation file szFile, or null. nLoadMode, nTimeoutMs and
     /// nReserved are the data set's loading arguments (1, 30000, 0 or 0, 30000, 0); here every animation
@@ -19,4 +19,4 @@ protected:
 };
 
 /// The process-wide animation set (never null).
-HOSTLIB_API IGameDataSet* GameDataSetQuery();
+IGameDataSet* GameDataSetQuery();

@@ -9,7 +9,7 @@
 /// The file of the widgets' own animations.
 inline constexpr const char* CONTROL_ANI_FILE = "ani/Control.ani";
 
-class HOSTLIB_API CGameGraphic {
+class CGameGraphic {
 public:
     /// Frame of an animation: any value below 0 plays it by the host clock (CMyAni::FrameByTime).
     static constexpr int FRAME_BY_TIME = -1;

@@ -10,9 +10,9 @@ using HGLOBAL = void*;
 inline constexpr UINT GMEM_MOVEABLE = 0x0002;
 
 /// A block of nBytes bytes (at least 1); null when it cannot be had. Free it with GlobalFree.
-HOSTLIB_API HGLOBAL GlobalAlloc(UINT uFlags, std::size_t nBytes);
+HGLOBAL GlobalAlloc(UINT uFlags, std::size_t nBytes);
 /// The block's bytes, valid until the matching GlobalUnlock; null when the block cannot be locked.
-HOSTLIB_API void* GlobalLock(HGLOBAL hMem);
-HOSTLIB_API BOOL GlobalUnlock(HGLOBAL hMem);
+void* GlobalLock(HGLOBAL hMem);
+BOOL GlobalUnlock(HGLOBAL hMem);
 /// Frees a block (null is accepted); returns null on success, as the system does.
-HOSTLIB_API HGLOBAL GlobalFree(HGLOBAL hMem);
+HGLOBAL GlobalFree(HGLOBAL hMem);

@@ -15,7 +15,7 @@
 ///
 /// Bitmap objects come from MyBitmapCreate / MyBitmapCreateEmpty; the caller owns them and ends them with
 /// Release().
-class HOSTLIB_API CMyBitmap {
+class CMyBitmap {
 public:
     // ---- bitmap objects --------------------------------------------------------------------------
 
@@ -94,6 +94,6 @@ protected:
 /// Loads a BMP, JPEG or PNG file (relative to the client directory, or absolute). Always returns an object
 /// owned by the caller (Release); an unreadable file gives a 0 x 0 bitmap that draws nothing. Null only for a
 /// null path.
-HOSTLIB_API CMyBitmap* MyBitmapCreate(const char* szFile);
+CMyBitmap* MyBitmapCreate(const char* szFile);
 /// A transparent bitmap of the given size (clamped to 1..8192 per side), owned by the caller (Release).
-HOSTLIB_API CMyBitmap* MyBitmapCreateEmpty(int nWidth, int nHeight);
+CMyBitmap* MyBitmapCreateEmpty(int nWidth, int nHeight);

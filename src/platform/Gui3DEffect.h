@@ -12,7 +12,7 @@ inline constexpr const char* GUI_EFFECT_ANI_FILE = "ani/Gui3DEffect.ani";
 
 /// A set of named effects. Created by GameCreateGui3DEffect; owned by the window that created it, which ends
 /// it with Release().
-class HOSTLIB_API CGui3DEffect {
+class CGui3DEffect {
 public:
     /// Play count for EverPlay: loop for ever.
     static constexpr int PLAY_FOREVER = -1;
@@ -45,4 +45,4 @@ protected:
 };
 
 /// A new, empty effect object owned by the caller (Release). Never null.
-HOSTLIB_API CGui3DEffect* GameCreateGui3DEffect();
+CGui3DEffect* GameCreateGui3DEffect();

@@ -5,11 +5,11 @@
 #include "BaseLib.h"
 
 /// The cursor's position in the game window's client coordinates.
-HOSTLIB_API BOOL GetCursorPos(POINT* pPoint);
+BOOL GetCursorPos(POINT* pPoint);
 /// The key's state as of the last message the window received: the high bit (0x8000) is set while it is down.
-HOSTLIB_API short GetKeyState(int nVirtKey);
+short GetKeyState(int nVirtKey);
 
 inline constexpr int SM_CXSCREEN = 0;
 inline constexpr int SM_CYSCREEN = 1;
 /// Screen metrics: SM_CXSCREEN and SM_CYSCREEN give the primary screen's size (0 for anything else).
-HOSTLIB_API int GetSystemMetrics(int nIndex);
+int GetSystemMetrics(int nIndex);

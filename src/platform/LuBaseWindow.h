@@ -17,7 +17,7 @@ class CLuLayoutRecord;
 class ILuGuiMgr;
 
 /// Receives the notifications of a window's controls: commands (273), list rows (336, 331).
-class HOSTLIB_API IMyMsgCallBack {
+class IMyMsgCallBack {
 public:
     virtual ~IMyMsgCallBack() = default;
     /// A control of this window reports uMsg (wParam: the control id); returns the window's answer.
@@ -28,7 +28,7 @@ public:
 enum ELuAlign { LU_ALIGN_LEFT = 0, LU_ALIGN_CENTER = 1, LU_ALIGN_RIGHT = 2 };
 
 /// A window of the widget toolkit.
-class HOSTLIB_API CLuBaseWindow {
+class CLuBaseWindow {
 public:
     CLuBaseWindow();
     virtual ~CLuBaseWindow();
@@ -155,13 +155,6 @@ public:
     const char* GetTipText() const { return m_strTip.c_str(); }
     DWORD GetTipColor() const { return m_dwTipColor; }
 
-    // ---- toolkit internals (the dialog manager and dialogs call these) ----------------------------
-
-    /// Attaches the window to its manager, its dialog, its id and its layout record, and applies the record.
-    void Attach(ILuGuiMgr* pMgr, CLuDialog* pParent, UINT nId, const CLuLayoutRecord* pLayout);
-    /// Applies the layout keys every window understands.
-    void ApplyLayout();
-
 protected:
     /// Draws the background animation's current frame over the window rectangle (moved by the offset).
     virtual void ShowBackGround();
@@ -199,6 +192,12 @@ protected:
     std::intptr_t m_nExtData = 0;
     std::string m_strTip;
     DWORD m_dwTipColor = 0xFFFFFFFF;
+
+private:
+    /// The toolkit's own bookkeeping (attaching windows to their manager, dialog and layout record).
+    friend class CLuToolkit;
+    /// Applies the layout keys every window understands.
+    void ApplyLayout();
 };
 
 } // namespace LuGui

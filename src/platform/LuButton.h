@@ -7,7 +7,7 @@ namespace LuGui {
 
 /// Background frames: 0 normal, 1 hover, 2 pressed, 3 disabled (a frame the animation lacks falls back to
 /// 0).
-class HOSTLIB_API CLuButton : public CLuCtrl {
+class CLuButton : public CLuCtrl {
 public:
     CLuButton() = default;
     ~CLuButton() override = default;

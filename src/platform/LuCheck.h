@@ -6,7 +6,7 @@
 namespace LuGui {
 
 /// Background frames: 0 unchecked, 1 checked (hover does not change the frame).
-class HOSTLIB_API CLuCheck : public CLuCtrl {
+class CLuCheck : public CLuCtrl {
 public:
     CLuCheck() = default;
     ~CLuCheck() override = default;

@@ -8,9 +8,9 @@ namespace LuGui {
 
 /// The kinds of control the layout file names ("Kind=Button" ...).
 enum class ELuCtrlKind { Static, Button, Check, Edit, Image, List, Progress };
-HOSTLIB_API const char* CtrlKindName(ELuCtrlKind eKind);
+const char* CtrlKindName(ELuCtrlKind eKind);
 
-class HOSTLIB_API CLuCtrl : public CLuBaseWindow {
+class CLuCtrl : public CLuBaseWindow {
 public:
     CLuCtrl() = default;
     ~CLuCtrl() override = default;

@@ -18,7 +18,7 @@ inline constexpr UINT LU_MSG_ACTIVATE = 10027;
 inline constexpr UINT LU_MSG_LOSE_FOCUS = 10029;
 
 /// The context of DoDataExchange: the dialog whose controls are being bound.
-class HOSTLIB_API CDataExchange {
+class CDataExchange {
 public:
     explicit CDataExchange(CLuDialog* pDialog) : m_pDialog(pDialog) {}
     CLuDialog* GetDialog() const { return m_pDialog; }
@@ -29,9 +29,9 @@ private:
 
 /// Binds rControl to control nIDC of the dialog: attaches its layout record (none when the layout does not
 /// describe it), applies the layout, then runs the control's PreInitData and InitData.
-HOSTLIB_API void DDX_Control(CDataExchange* pDX, int nIDC, CLuCtrl& rControl);
+void DDX_Control(CDataExchange* pDX, int nIDC, CLuCtrl& rControl);
 
-class HOSTLIB_API CLuDialog : public CLuBaseWindow, public IMyMsgCallBack {
+class CLuDialog : public CLuBaseWindow, public IMyMsgCallBack {
 public:
     /// A handler of the message map: no argument, one per control id.
     using MsgHandler = std::function<void()>;
@@ -86,36 +86,25 @@ public:
     /// Whether the dialog stays above the others (layout key "TopMost").
     bool IsTopMost() const { return m_bTopMost; }
 
-    // ---- toolkit internals --------------------------------------------------------------------
-
-    void AddControl(CLuCtrl* pCtrl);
-    /// Forgets the bound controls and the message map before the dialog is created (again).
-    void ClearForCreation();
-    const std::vector<CLuCtrl*>& GetControls() const { return m_vecCtrls; }
+    /// The bound control with that id (GetDlgItem), null when none is bound.
     CLuCtrl* GetControl(UINT nId) const;
-    /// The top-most visible, enabled control at a screen point that takes presses (bAnyControl: any control,
-    /// for tool tips).
-    CLuCtrl* ControlAt(POINT ptScreen, bool bAnyControl = false) const;
-    /// The control holding the left button, if any.
-    CLuCtrl* GetCapture() const { return m_pCapture; }
-    void ReleaseCapture() { m_pCapture = nullptr; }
-    /// Layout flags, read at creation.
-    void SetTopMost(bool bTopMost) { m_bTopMost = bTopMost; }
-    void SetOpenInactive(DWORD dwMs) { m_dwOpenInactiveMs = dwMs; }
-    DWORD GetOpenInactiveMs() const { return m_dwOpenInactiveMs; }
-    /// The manager activates the dialog: clears the inactive state and sends LU_MSG_ACTIVATE.
-    void Activate();
 
 protected:
     void ShowBackGround() override;
 
 private:
+    /// The toolkit's own bookkeeping (bound controls, creation, activation, hit tests).
+    friend class CLuToolkit;
+
     struct SMsgEntry {
         UINT uMsg;
         UINT nId;
         MsgHandler handler;
     };
 
+    /// The top-most visible, enabled control at a screen point that takes presses (bAnyControl: any control,
+    /// for tool tips).
+    CLuCtrl* ControlAt(POINT ptScreen, bool bAnyControl = false) const;
     LRESULT RouteMouse(UINT uMsg, WPARAM wParam, LPARAM lParam);
     LRESULT RouteKey(UINT uMsg, WPARAM wParam, LPARAM lParam);
 

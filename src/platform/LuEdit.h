@@ -6,7 +6,7 @@
 
 namespace LuGui {
 
-class HOSTLIB_API CLuEdit : public CLuCtrl {
+class CLuEdit : public CLuCtrl {
 public:
     /// The byte limit of a new edit.
     static constexpr int DEFAULT_LIMIT_TEXT = 1024;

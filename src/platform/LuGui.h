@@ -53,18 +53,12 @@ public:
     /// The host's window handle given to Init.
     virtual HWND GetHostWindow() const = 0;
 
-    // ---- toolkit internals: dialogs report here ---------------------------------------------------
-    virtual void OnDialogShown(CLuDialog* pDialog, bool bShown) = 0;
-    virtual void BringToTop(CLuDialog* pDialog) = 0;
-    /// A registered dialog is being destroyed: the manager forgets it and its controls.
-    virtual void ForgetDialog(CLuDialog* pDialog) = 0;
-
 protected:
     ~ILuGuiMgr() = default;
 };
 
 /// Creates a new dialog manager, owned by the caller until its Release.
-HOSTLIB_API ILuGuiMgr* CreateNewGuiMgr();
+ILuGuiMgr* CreateNewGuiMgr();
 
 /// Optional helper of the widget library; null when the library has none.
 class IGuiHelper {
@@ -74,6 +68,6 @@ public:
 protected:
     ~IGuiHelper() = default;
 };
-HOSTLIB_API IGuiHelper* GetGuiHelper();
+IGuiHelper* GetGuiHelper();
 
 } // namespace LuGui

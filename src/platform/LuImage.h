@@ -5,7 +5,7 @@
 
 namespace LuGui {
 
-class HOSTLIB_API CLuImage : public CLuCtrl {
+class CLuImage : public CLuCtrl {
 public:
     CLuImage() = default;
     ~CLuImage() override = default;

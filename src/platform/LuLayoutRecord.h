@@ -10,7 +10,7 @@
 namespace LuGui {
 
 /// A section of the layout file. Owned by the dialog manager for its whole life; windows only point at it.
-class HOSTLIB_API CLuLayoutRecord {
+class CLuLayoutRecord {
 public:
     CLuLayoutRecord() = default;
     explicit CLuLayoutRecord(std::string strName) : m_strName(std::move(strName)) {}

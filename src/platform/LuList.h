@@ -14,7 +14,7 @@ inline constexpr UINT LU_MSG_LIST_SELECT = 336;
 /// Message to the dialog when a row's delete mark was clicked (wParam: list id, lParam: row).
 inline constexpr UINT LU_MSG_LIST_DELETE = 331;
 
-class HOSTLIB_API CLuList : public CLuCtrl {
+class CLuList : public CLuCtrl {
 public:
     /// Size of the square delete mark of a row.
     static constexpr int DELETE_MARK_SIZE = 12;

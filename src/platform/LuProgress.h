@@ -9,7 +9,7 @@ namespace LuGui {
 
 /// Draws the background's frame 0 over the whole bar and its frame 1 (or, without one, a block in the font
 /// colour) over the filled part, from the left.
-class HOSTLIB_API CLuProgress : public CLuCtrl {
+class CLuProgress : public CLuCtrl {
 public:
     CLuProgress() = default;
     ~CLuProgress() override = default;

@@ -5,7 +5,7 @@
 
 namespace LuGui {
 
-class HOSTLIB_API CLuStatic : public CLuCtrl {
+class CLuStatic : public CLuCtrl {
 public:
     CLuStatic() = default;
     ~CLuStatic() override = default;

@@ -10,7 +10,7 @@
 #include "BaseLib.h"
 
 /// One animation: its frames and how to draw them. Owned by the animation library.
-class HOSTLIB_API CMyAni {
+class CMyAni {
 public:
     /// Number of frames (at least 1 for every animation the library hands out).
     virtual int GetFrameAmount() const = 0;
@@ -39,7 +39,7 @@ protected:
 };
 
 /// The animation manager of the animation library.
-class HOSTLIB_API IMyAniMgr {
+class IMyAniMgr {
 public:
     /// The animation titled szTitle in the animation file szFile; null when the file or the title does not
     /// exist.
@@ -52,4 +52,4 @@ protected:
 };
 
 /// The process-wide animation manager (never null).
-HOSTLIB_API IMyAniMgr* QueryMyAniMgr();
+IMyAniMgr* QueryMyAniMgr();

@@ -4,7 +4,7 @@
 #include "BaseLib.h"
 
 /// Fetches the player list of the servers from an address; what it does with the list is the role library's.
-class HOSTLIB_API CHttpGetSvrPlayerList {
+class CHttpGetSvrPlayerList {
 public:
     CHttpGetSvrPlayerList();
     ~CHttpGetSvrPlayerList();

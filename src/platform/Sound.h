@@ -9,13 +9,13 @@
 class ISound;
 
 /// Whether the sound library can play a file of this name itself.
-HOSTLIB_API bool TestSoundFormat(const char* szName);
+bool TestSoundFormat(const char* szName);
 /// Plays a sound effect; returns the sound, or null when nothing plays.
-HOSTLIB_API ISound* DXPlaySound(const char* szName, std::int32_t n1, std::int32_t n2, std::int32_t n3,
-                                std::int32_t n4, const char* szName2, bool bFlag);
+ISound* DXPlaySound(const char* szName, std::int32_t n1, std::int32_t n2, std::int32_t n3, std::int32_t n4,
+                    const char* szName2, bool bFlag);
 /// Plays a music track nRepeat times (-1: endlessly); returns whether it started.
-HOSTLIB_API bool DXPlayMedia(const char* szName, int nRepeat, const char* szName2, bool bFlag);
+bool DXPlayMedia(const char* szName, int nRepeat, const char* szName2, bool bFlag);
 /// Sets the music volume (0 to 100) under a setting name.
-HOSTLIB_API void DXSetMusicVolume(int nVolume, const char* szSettingName);
+void DXSetMusicVolume(int nVolume, const char* szSettingName);
 /// Advances the sound library by one frame.
-HOSTLIB_API void ProcressSound();
+void ProcressSound();

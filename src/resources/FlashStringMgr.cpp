@@ -2,19 +2,24 @@
 #include "resources/FlashStringMgr.h"
 
 #include <algorithm>
+#include <cctype>
 #include <cstdio>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
 #include "common/SysLog.h"
 #include "platform/BaseLib.h"
+#include "platform/ZrIni.h"
 #include "resources/TextScan.h"
 
 namespace {
 constexpr std::size_t LINE_BUFFER_SIZE = 1024;
 constexpr UINT CP_UTF8_CODE_PAGE = 65001;
 constexpr std::size_t LINES_RESERVED = 4096;
+// A damaged table must not flood the log: warnings of one kind past this many are counted, then summed up.
+constexpr std::size_t MAX_WARNINGS_OF_A_KIND = 100;
 
 bool IsCommentLine(std::string_view line) {
     return line.empty() || line.front() == ';' || line.substr(0, 2) == "//";
@@ -41,6 +46,7 @@ void CFlashStringMgr::Load() {
     LoadServerCfg();
     m_bLoading = true;
     Clear();
+    m_nSameIdCount = 0;
     m_mapStrings.reserve(LINES_RESERVED);
     ZrFile* file = Safefopen(STRING_FILE, "r");
     if (!file) {
@@ -55,6 +61,11 @@ void CFlashStringMgr::Load() {
         AddLine(line);
     }
     Safefclose(file);
+    if (m_nSameIdCount > MAX_WARNINGS_OF_A_KIND)
+        SysLogWarn(__FILE__, __LINE__,
+                   "strres have same id, only the first " + std::to_string(MAX_WARNINGS_OF_A_KIND) +
+                       " logged",
+                   "count", std::to_string(m_nSameIdCount));
     m_bLoading = false;
 }
 
@@ -68,7 +79,8 @@ void CFlashStringMgr::AddLine(std::string_view line) {
     const std::string_view value = line.substr(eq + 1);
 
     if (const auto it = m_mapStrings.find(nId); it != m_mapStrings.end()) {
-        SysLogWarn(__FILE__, __LINE__, "strres have same id", "id", std::to_string(nId));
+        if (++m_nSameIdCount <= MAX_WARNINGS_OF_A_KIND)
+            SysLogWarn(__FILE__, __LINE__, "strres have same id", "id", std::to_string(nId));
         m_mapStrings.erase(it);
     }
     if (nId >= RANGED_ID_FIRST && nId <= RANGED_ID_LAST) AddRanged(value);
@@ -120,9 +132,11 @@ namespace {
 constexpr std::size_t CFG_TEXT_SIZE = 1024;
 constexpr std::size_t CFG_TIME_SIZE = 256;
 constexpr std::size_t CFG_NAME_SIZE = 64;
-// Bounds the loops a damaged file could make endless; no real category comes near them.
+// Bounds the counts a damaged file could make huge; no real category comes near them.
 constexpr int MAX_CFG_GROUPS = 1024;
 constexpr int MAX_CFG_SERVERS = 1024;
+// Server numbers longer than this are beyond every count above.
+constexpr std::size_t MAX_SERVER_NUMBER_DIGITS = 4;
 
 struct SCfgCategory {
     const char* szHeader;
@@ -134,21 +148,20 @@ constexpr SCfgCategory CFG_CATEGORIES[] = {
     {"HeaderQQ", "GroupQQ", 4},     {"HeaderTime", "GroupTime", 3},
     {"HeaderBoss", "GroupBoss", 5}, {"HeaderTianYi", "GroupTianYi", 6},
 };
+// The keys of the n-th server of a group are these names followed by n.
+constexpr std::string_view CFG_SERVER_KEYS[] = {"Server",      "AchTime",          "AchTips",
+                                                "SpecialMark", "SpecialNameColor", "SpecialEffect",
+                                                "SpecialBg",   "SpecialIntroduce", "SpecialDetailTip"};
 
-std::string ReadCfgText(const char* szSection, const char* szKey, std::size_t nSize = CFG_TEXT_SIZE) {
-    std::vector<char> buf(nSize);
-    MyGetPrivateProfileString(szSection, szKey, "", buf.data(), static_cast<DWORD>(nSize),
-                              CFlashStringMgr::SERVER_CFG_FILE);
-    return buf.data();
+// The value cut as the profile functions' buffer of nSize bytes cuts it.
+std::string ReadCfgText(const CZrIni& ini, const char* szSection, const char* szKey,
+                        std::size_t nSize = CFG_TEXT_SIZE) {
+    return std::string(ini.GetString(szSection, szKey, "")).substr(0, nSize - 1);
 }
 
-int ReadCfgInt(const char* szSection, const char* szKey) {
-    return MyGetPrivateProfileInt(szSection, szKey, 0, CFlashStringMgr::SERVER_CFG_FILE);
-}
-
-std::string KeyName(const char* szFormat, int n) {
+std::string KeyName(std::string_view name, int n) {
     char key[CFG_NAME_SIZE];
-    SafeSprintf(key, sizeof key, "%s%d", szFormat, n);
+    SafeSprintf(key, sizeof key, "%.*s%d", static_cast<int>(name.size()), name.data(), n);
     return key;
 }
 
@@ -160,43 +173,90 @@ void ReadAchTime(const std::string& text, std::int32_t& nStart, std::int32_t& nE
     nEnd = numbers[1];
 }
 
-SCfgServer ReadCfgServer(const char* szSection, int n) {
+SCfgServer ReadCfgServer(const CZrIni& ini, const char* szSection, int n) {
     SCfgServer server;
-    server.bAchTips = ReadCfgInt(szSection, KeyName("AchTips", n).c_str()) > 0;
-    ReadAchTime(ReadCfgText(szSection, KeyName("AchTime", n).c_str(), CFG_TIME_SIZE), server.nAchStart,
+    server.bAchTips = ini.GetInt(szSection, KeyName("AchTips", n).c_str()) > 0;
+    ReadAchTime(ReadCfgText(ini, szSection, KeyName("AchTime", n).c_str(), CFG_TIME_SIZE), server.nAchStart,
                 server.nAchEnd);
-    server.bSpecialMark = ReadCfgInt(szSection, KeyName("SpecialMark", n).c_str()) > 0;
+    server.bSpecialMark = ini.GetInt(szSection, KeyName("SpecialMark", n).c_str()) > 0;
     server.dwNameColor = static_cast<std::uint32_t>(
-        SafeStrtoul(ReadCfgText(szSection, KeyName("SpecialNameColor", n).c_str()).c_str(), 16));
-    server.strSpecialEffect = ReadCfgText(szSection, KeyName("SpecialEffect", n).c_str());
-    server.strSpecialBg = ReadCfgText(szSection, KeyName("SpecialBg", n).c_str());
-    server.strSpecialIntroduce = ReadCfgText(szSection, KeyName("SpecialIntroduce", n).c_str());
-    server.strSpecialDetailTip = ReadCfgText(szSection, KeyName("SpecialDetailTip", n).c_str());
+        SafeStrtoul(ReadCfgText(ini, szSection, KeyName("SpecialNameColor", n).c_str()).c_str(), 16));
+    server.strSpecialEffect = ReadCfgText(ini, szSection, KeyName("SpecialEffect", n).c_str());
+    server.strSpecialBg = ReadCfgText(ini, szSection, KeyName("SpecialBg", n).c_str());
+    server.strSpecialIntroduce = ReadCfgText(ini, szSection, KeyName("SpecialIntroduce", n).c_str());
+    server.strSpecialDetailTip = ReadCfgText(ini, szSection, KeyName("SpecialDetailTip", n).c_str());
     return server;
+}
+
+bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+// Keys match as the profile functions match them, without regard to case.
+bool StartsWithNoCase(std::string_view text, std::string_view prefix) {
+    return text.size() >= prefix.size() &&
+           std::equal(prefix.begin(), prefix.end(), text.begin(), [](char a, char b) {
+               return std::tolower(static_cast<unsigned char>(a)) ==
+                      std::tolower(static_cast<unsigned char>(b));
+           });
+}
+
+// n when key is one of the server keys followed by n as "%d" writes it (1 to nMax), else 0.
+int ServerNumberOf(std::string_view key, int nMax) {
+    for (std::string_view name : CFG_SERVER_KEYS) {
+        if (key.size() <= name.size() || key.size() > name.size() + MAX_SERVER_NUMBER_DIGITS) continue;
+        if (!StartsWithNoCase(key, name)) continue;
+        const std::string_view digits = key.substr(name.size());
+        if (digits.front() == '0' || !std::all_of(digits.begin(), digits.end(), IsDigit)) continue;
+        const int n = SafeAtoi(std::string(digits).c_str());
+        return n <= nMax ? n : 0;
+    }
+    return 0;
+}
+
+// The server numbers 1 to nServerAmount worth reading, in order: those the section has keys for, and the
+// first one it has none for (read as a server of defaults under id 0; later ones would add nothing, as the
+// first id stays). Bounded by the keys present, whatever the amount says.
+std::vector<int> CfgServerNumbers(const CZrIni& ini, const char* szSection, int nServerAmount) {
+    std::set<int> numbers;
+    for (const std::string& key : ini.GetKeys(szSection))
+        if (const int n = ServerNumberOf(key, nServerAmount)) numbers.insert(n);
+    int nFirstWithout = 1;
+    while (numbers.count(nFirstWithout)) ++nFirstWithout;
+    if (nFirstWithout <= nServerAmount) numbers.insert(nFirstWithout);
+    return {numbers.begin(), numbers.end()};
 }
 } // namespace
 
 void CFlashStringMgr::LoadServerCfg() {
+    // NOTE: the file is read once per load; a damaged one with huge counts costs what its keys cost.
+    CZrIni ini;
+    if (!ini.Open(SERVER_CFG_FILE)) {
+        SysLogInfo(__FILE__, __LINE__, "server configuration missing or unreadable", "file_name",
+                   SERVER_CFG_FILE);
+        return;
+    }
     for (const SCfgCategory& category : CFG_CATEGORIES)
-        LoadCfgCategory(category.szHeader, category.szGroupPrefix, category.nModel);
+        LoadCfgCategory(ini, category.szHeader, category.szGroupPrefix, category.nModel);
 }
 
-void CFlashStringMgr::LoadCfgCategory(const char* szHeader, const char* szGroupPrefix, std::int32_t nModel) {
-    const int nGroupAmount = std::min(ReadCfgInt(szHeader, "GroupAmount"), MAX_CFG_GROUPS);
+void CFlashStringMgr::LoadCfgCategory(const CZrIni& ini, const char* szHeader, const char* szGroupPrefix,
+                                      std::int32_t nModel) {
+    const int nGroupAmount = std::min(ini.GetInt(szHeader, "GroupAmount"), MAX_CFG_GROUPS);
     if (nGroupAmount <= 0) return;
     CfgGroupMap& groups = m_mapServerCfg[nModel];
     for (int g = 1; g <= nGroupAmount; ++g) {
         char section[CFG_NAME_SIZE];
         SafeSprintf(section, sizeof section, "%s%d", szGroupPrefix, g);
-        const int nServerAmount = std::min(ReadCfgInt(section, "ServerAmount"), MAX_CFG_SERVERS);
+        const int nServerAmount = std::min(ini.GetInt(section, "ServerAmount"), MAX_CFG_SERVERS);
         if (nServerAmount <= 0) continue;
         if (groups.count(g - 1)) continue; // a reload adds groups but never changes loaded ones
         SCfgGroup group;
-        group.strGroupTips = ReadCfgText(section, "GroupTips");
-        group.strGroupDetailTips = ReadCfgText(section, "GroupDetailTips");
-        for (int n = 1; n <= nServerAmount; ++n) {
-            const std::int32_t id = ReadCfgInt(section, KeyName("Server", n).c_str());
-            SCfgServer server = ReadCfgServer(section, n);
+        group.strGroupTips = ReadCfgText(ini, section, "GroupTips");
+        group.strGroupDetailTips = ReadCfgText(ini, section, "GroupDetailTips");
+        for (const int n : CfgServerNumbers(ini, section, nServerAmount)) {
+            const std::int32_t id = ini.GetInt(section, KeyName("Server", n).c_str());
+            SCfgServer server = ReadCfgServer(ini, section, n);
             group.bAchTips = group.bAchTips || server.bAchTips;
             group.bSpecialMark = group.bSpecialMark || server.bSpecialMark;
             group.mapServers.emplace(id, std::move(server)); // the first entry of an id stays

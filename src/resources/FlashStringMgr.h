@@ -10,6 +10,8 @@
 #include <utility>
 
 #include "platform/ZrString.h"
+
+class CZrIni;
 #include "resources/ServerCfg.h"
 
 class CFlashStringMgr {
@@ -61,11 +63,13 @@ public:
 private:
     void AddLine(std::string_view line);
     void AddRanged(std::string_view value);
-    void LoadCfgCategory(const char* szHeader, const char* szGroupPrefix, std::int32_t nModel);
+    void LoadCfgCategory(const CZrIni& ini, const char* szHeader, const char* szGroupPrefix,
+                         std::int32_t nModel);
 
     // Lookups are the hot path and nothing walks the plain strings in order, so they live in a hash map.
     std::unordered_map<std::uint32_t, CZrString> m_mapStrings;
     std::map<std::int64_t, CZrString> m_mapRanged;
     bool m_bLoading = false;
     std::map<std::int32_t, CfgGroupMap> m_mapServerCfg; ///< by model number
+    std::size_t m_nSameIdCount = 0;                     ///< repeated ids of the load in progress
 };

@@ -12,9 +12,9 @@ std::optional<std::int32_t> ReadInt(std::string_view text, std::size_t& pos) {
     if (p < text.size() && (text[p] == '-' || text[p] == '+')) negative = text[p++] == '-';
     const std::size_t digits = p;
     std::int64_t value = 0;
-    constexpr std::int64_t kLimit = static_cast<std::int64_t>(std::numeric_limits<std::int32_t>::max()) + 1;
+    constexpr std::int64_t LIMIT = static_cast<std::int64_t>(std::numeric_limits<std::int32_t>::max()) + 1;
     for (; p < text.size() && text[p] >= '0' && text[p] <= '9'; ++p)
-        if (value < kLimit) value = value * 10 + (text[p] - '0');
+        if (value < LIMIT) value = value * 10 + (text[p] - '0');
     if (p == digits) return std::nullopt;
     pos = p;
     if (negative) value = -value;

@@ -2,6 +2,8 @@
 // destroyed in the reverse order; only the simulator's sources see it.
 #pragma once
 
+#include <array>
+
 #include "controls/WebBrowserEn.h"
 #include "login/DlgFlashLogin.h"
 #include "login/DlgFlashLoginEn.h"
@@ -66,4 +68,8 @@ public:
     CWebBrowserEn m_webBrowser;
     CDlgFlashSwitchLanguageEn m_dlgSwitchLanguage;
     CDlgFlashSceneSelect m_dlgSceneSelect;
+
+private:
+    static constexpr std::size_t REGISTRATIONS = 25;
+    std::array<CSimDialog*, REGISTRATIONS> RegistrationOrder();
 };

@@ -270,9 +270,9 @@ void CFlashSimulator::SetCreateRoleParam(std::int32_t nNewServer, std::int32_t n
 
 // The forced profession type as a column index: 8, 7, 11, 9, 10, 12, 13 give 0 to 6; anything else 0.
 int CFlashSimulator::GetForcedTypeIndex() const {
-    static constexpr int kForcedTypes[] = {8, 7, 11, 9, 10, 12, 13};
-    for (int i = 0; i < static_cast<int>(std::size(kForcedTypes)); ++i)
-        if (kForcedTypes[i] == m_state.m_nForcedType) return i;
+    static constexpr int FORCED_TYPES[] = {8, 7, 11, 9, 10, 12, 13};
+    for (int i = 0; i < static_cast<int>(std::size(FORCED_TYPES)); ++i)
+        if (FORCED_TYPES[i] == m_state.m_nForcedType) return i;
     return 0;
 }
 

@@ -7,6 +7,7 @@
 //   window messages  mouse, typed characters, keys and the control descriptions of "show"
 #include "ScenarioRunner.h"
 
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -64,10 +65,12 @@ ScenarioRunner::ScenarioRunner(const RunOptions& options, Transcript& transcript
     host::SetClientDir(m_options.resDir);
     // Frames are drawn to pixels so that any of them can be written with "shot".
     host::UseCanvas(host::CanvasKind::Raster);
+    host::EnableDrawingCheck(m_options.checkDrawing);
     InstallLogSink();
 }
 
 ScenarioRunner::~ScenarioRunner() {
+    host::EnableDrawingCheck(false);
     host::SetLogSink({});
     g_pTranscript = nullptr;
     if (!m_strScratchDir.empty()) {
@@ -260,6 +263,16 @@ void ScenarioRunner::StepFrame(const ScenarioStep& step) {
         m_pSim->Process();
         host::BeginFrame();
         m_pSim->Show();
+        if (m_options.checkDrawing) ReportOverflows();
+    }
+}
+
+void ScenarioRunner::ReportOverflows() {
+    for (const host::DrawOverflow& overflow : host::GetDrawOverflows()) {
+        const std::string line = "! " + (overflow.clipped ? "" : std::string("drawn ")) + overflow.ToString();
+        if (!m_reportedOverflows.insert(line).second) continue;
+        m_transcript.Line(line);
+        if (!overflow.clipped) m_bFailed = true;
     }
 }
 
@@ -407,8 +420,9 @@ void ScenarioRunner::StepClick(const ScenarioStep& step) {
         m_transcript.Line("! no such visible control");
         return;
     }
-    const int x = (state.rect.left + state.rect.right) / 2;
-    const int y = (state.rect.top + state.rect.bottom) / 2;
+    // NOTE: summed in 64 bits: a host may place a window anywhere an int reaches.
+    const int x = static_cast<int>((static_cast<std::int64_t>(state.rect.left) + state.rect.right) / 2);
+    const int y = static_cast<int>((static_cast<std::int64_t>(state.rect.top) + state.rect.bottom) / 2);
     SendMouse(WM_LBUTTONDOWN, x, y);
     SendMouse(WM_LBUTTONUP, x, y);
 }

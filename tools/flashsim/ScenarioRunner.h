@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -10,10 +11,11 @@
 #include "Transcript.h"
 
 struct RunOptions {
-    std::string scenarioPath; ///< the scenario file (relative paths of "dir" resolve against its folder)
-    std::string libraryPath;  ///< the system library to load
-    std::string resDir;       ///< the default client directory
-    std::string outDir;       ///< where "shot" writes its pictures
+    std::string scenarioPath;  ///< the scenario file (relative paths of "dir" resolve against its folder)
+    std::string libraryPath;   ///< the system library to load
+    std::string resDir;        ///< the default client directory
+    std::string outDir;        ///< where "shot" writes its pictures
+    bool checkDrawing = false; ///< after every frame, report texts and pictures drawn past their window
 };
 
 class ScenarioRunner {
@@ -62,6 +64,9 @@ private:
     void SendMouse(UINT uMsg, int x, int y);
 
     void InstallLogSink();
+    /// Prints each overflow of the frame not printed before: "! cut at ..." for what the clip cut at the
+    /// window's edge, "! drawn outside ..." (a failure) for what is seen outside its window.
+    void ReportOverflows();
 
     RunOptions m_options;
     Transcript& m_transcript;
@@ -70,6 +75,7 @@ private:
     enum class ELogMode { Off, On, Strict };
     ELogMode m_eLog = ELogMode::Off;
     bool m_bFailed = false;
+    std::set<std::string> m_reportedOverflows;
     /// The scratch copy of the client directory made by "scratch", removed when the run ends.
     std::string m_strScratchDir;
 };

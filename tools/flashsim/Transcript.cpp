@@ -4,7 +4,7 @@
 #include <cstdio>
 
 std::string EscapeText(std::string_view text) {
-    static constexpr char kHex[] = "0123456789ABCDEF";
+    static constexpr char HEX[] = "0123456789ABCDEF";
     std::string out;
     out.reserve(text.size());
     for (const char ch : text) {
@@ -15,8 +15,8 @@ std::string EscapeText(std::string_view text) {
             out += "\\n";
         } else if (c == '"' || c < 0x20 || c >= 0x7F) {
             out += "\\x";
-            out.push_back(kHex[c >> 4]);
-            out.push_back(kHex[c & 0xF]);
+            out.push_back(HEX[c >> 4]);
+            out.push_back(HEX[c & 0xF]);
         } else {
             out.push_back(ch);
         }

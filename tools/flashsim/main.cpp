@@ -19,7 +19,7 @@ constexpr int EXIT_DIFFERENT = 1; // the run failed or its transcript differs
 constexpr int EXIT_USAGE = 2;     // the command line or the scenario file could not be used
 
 constexpr const char* USAGE =
-    "usage: flashsim run|check FILE [--lib PATH] [--res DIR] [--out DIR]\n"
+    "usage: flashsim run|check FILE [--lib PATH] [--res DIR] [--out DIR] [--check-drawing]\n"
     "       flashsim --help\n"
     "  run    executes the scenario and prints its transcript\n"
     "  check  executes it and compares the transcript with FILE's .out file; log lines the .out file\n"
@@ -28,7 +28,9 @@ constexpr const char* USAGE =
     "         env FLASHSIM_LIBRARY)\n"
     "  --res  the default client directory (default: the sample one, found from the executable;\n"
     "         env FLASHSIM_RES)\n"
-    "  --out  where shot writes pictures (default: the current directory; env FLASHSIM_OUT)\n";
+    "  --out  where shot writes pictures (default: the current directory; env FLASHSIM_OUT)\n"
+    "  --check-drawing  after every frame, prints each text or picture drawn past its window\n"
+    "         (\"! cut at\" when the clip cut it there, \"! drawn outside\" otherwise, which fails)\n";
 
 struct SCommandLine {
     bool bHelp = false;
@@ -60,6 +62,10 @@ std::optional<SCommandLine> ParseCommandLine(int argc, char** argv, std::string&
         if (arg == "--help" || arg == "-h") {
             cmd.bHelp = true;
             return cmd;
+        }
+        if (arg == "--check-drawing") {
+            cmd.options.checkDrawing = true;
+            continue;
         }
         std::string* target = arg == "--lib"   ? &cmd.options.libraryPath
                               : arg == "--res" ? &cmd.options.resDir

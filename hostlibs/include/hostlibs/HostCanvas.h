@@ -16,7 +16,7 @@ namespace host {
 
 /// One recorded draw operation. Compound operations (animations, nine-patches, effects, bitmaps,
 /// string-resource pictures) are recorded once, not as the pixels and shapes they are made of.
-struct HOSTLIB_API DrawOp {
+struct DrawOp {
     /// "block", "rect", "line", "text", "bitmap", "ani", "nine", "effect", "strres", "strresui".
     std::string kind;
     int x = 0, y = 0; ///< top-left corner (a line's start)
@@ -34,31 +34,52 @@ struct HOSTLIB_API DrawOp {
     std::string ToString() const;
 };
 
+/// A text or picture that a window of the widget toolkit drew past its own rectangle.
+struct DrawOverflow {
+    DrawOp op;               ///< as drawn, at its full size
+    UINT dialog = 0;         ///< template id of the dialog the window belongs to
+    UINT control = 0;        ///< control id; 0 when the dialog drew it itself
+    RECT window{0, 0, 0, 0}; ///< the window's screen rectangle
+    bool clipped = false; ///< the clip cut it at the window's edge: nothing of it is seen outside the window
+
+    /// `cut at 1013.1014 412,244 260x28: text ...` when clipped, else `outside 1013.1014 ...: ...` (the
+    /// dialog alone when the dialog drew it; the operation as DrawOp::ToString gives it).
+    std::string ToString() const;
+};
+
 enum class CanvasKind { Recording, Raster };
 
 /// Makes a new canvas of that kind current (screen size, cleared); the previous canvas and its content are
 /// dropped.
-HOSTLIB_API void UseCanvas(CanvasKind kind);
-HOSTLIB_API CanvasKind GetCanvasKind();
+void UseCanvas(CanvasKind kind);
+CanvasKind GetCanvasKind();
 /// Starts a frame: takes the screen size, clears the recording, fills the raster with dwClearColour, resets
 /// the clip rectangle to the whole screen.
-HOSTLIB_API void BeginFrame(DWORD dwClearColour = 0xFF000000);
+void BeginFrame(DWORD dwClearColour = 0xFF000000);
 
-/// The operations recorded since the last BeginFrame (empty for a raster canvas). At most kMaxRecordedOps are
-/// kept per frame; DroppedOpCount tells how many more were drawn.
-inline constexpr std::size_t kMaxRecordedOps = 100000;
-HOSTLIB_API std::vector<DrawOp> GetRecordedOps();
-HOSTLIB_API std::size_t DroppedOpCount();
+/// The operations recorded since the last BeginFrame (empty for a raster canvas). At most MAX_RECORDED_OPS
+/// are kept per frame; DroppedOpCount tells how many more were drawn.
+inline constexpr std::size_t MAX_RECORDED_OPS = 100000;
+std::vector<DrawOp> GetRecordedOps();
+std::size_t DroppedOpCount();
 /// The recorded operations, one ToString line each, every line ending in a newline.
-HOSTLIB_API std::string DumpRecordedOps();
+std::string DumpRecordedOps();
+
+/// The texts and pictures of this frame that reach past the window that drew them, in drawing order, as the
+/// recording canvas sees them: the current canvas when it records, else the check beside a raster canvas
+/// (EnableDrawingCheck); empty when neither records.
+std::vector<DrawOverflow> GetDrawOverflows();
+/// While on, every frame drawn on a raster canvas is also recorded, so that GetDrawOverflows reports on it
+/// (the reference host's drawing check). Off by default; it costs a recording per frame.
+void EnableDrawingCheck(bool bEnable);
 
 /// The raster frame as RGBA bytes, row by row (empty for a recording canvas); width and height are written.
-HOSTLIB_API std::vector<std::uint8_t> GetRasterPixels(int& nWidth, int& nHeight);
+std::vector<std::uint8_t> GetRasterPixels(int& nWidth, int& nHeight);
 /// Writes the raster frame as an 8-bit RGBA PNG file. False for a recording canvas or when the file cannot be
 /// written.
-HOSTLIB_API bool WriteFramePng(const std::string& path);
+bool WriteFramePng(const std::string& path);
 
 /// Drops every parsed animation index and decoded picture, so that changed files are read again.
-HOSTLIB_API void ClearGraphicsCaches();
+void ClearGraphicsCaches();
 
 } // namespace host

@@ -16,8 +16,7 @@
 
 namespace host {
 
-// ---- log sink
-// -------------------------------------------------------------------------------------------------------
+// ---- log sink ------------------------------------------------------------------------------------
 
 /// One line of any log: structured (INFO, WARN, ERROR), plain (MSG, DEBUG, LOCALERR, FAULT), or a
 /// host-library record of an outward effect (HOST: a dialog registered, a sound played, an address opened
@@ -32,42 +31,41 @@ struct LogRecord {
 using LogSink = std::function<void(const LogRecord&)>;
 
 /// Replaces the sink (an empty function discards every line). Returns the previous sink.
-HOSTLIB_API LogSink SetLogSink(LogSink sink);
+LogSink SetLogSink(LogSink sink);
 /// Hands a line to the sink.
-HOSTLIB_API void Emit(LogRecord record);
+void Emit(LogRecord record);
 /// Records an outward effect of a host library: counted, and emitted as a HOST line.
-HOSTLIB_API void Journal(std::string_view what,
-                         std::initializer_list<std::pair<std::string_view, std::string>> keys = {});
+void Journal(std::string_view what,
+             std::initializer_list<std::pair<std::string_view, std::string>> keys = {});
 /// Counts a per-frame call without a log line (Journal would flood the log).
-HOSTLIB_API void Count(std::string_view what);
+void Count(std::string_view what);
 /// How many times Journal or Count was called with this name since the last reset.
-HOSTLIB_API int JournalCount(std::string_view what);
+int JournalCount(std::string_view what);
 
-// ---- environment
-// ----------------------------------------------------------------------------------------------------
+// ---- environment ---------------------------------------------------------------------------------
 
 /// The client directory that relative file names resolve against (default: the process's current directory).
-HOSTLIB_API void SetClientDir(const std::string& dir);
+void SetClientDir(const std::string& dir);
 /// Advances the virtual millisecond clock behind TimeGet, timeGetTime and GetTickCount.
-HOSTLIB_API void AdvanceClock(DWORD ms);
-HOSTLIB_API void SetClock(DWORD ms);
+void AdvanceClock(DWORD ms);
+void SetClock(DWORD ms);
 /// Sets the local calendar time (seconds start at 0).
-HOSTLIB_API void SetLocalTime(const SLocalTime& t);
+void SetLocalTime(const SLocalTime& t);
 /// The screen (client area) size in pixels; 1024 x 768 by default.
-HOSTLIB_API void SetScreenSize(int nWidth, int nHeight);
-HOSTLIB_API void GetScreenSize(int& nWidth, int& nHeight);
+void SetScreenSize(int nWidth, int nHeight);
+void GetScreenSize(int& nWidth, int& nHeight);
 /// Host data by key (language name, switches, role lists ...); see docs/HOSTDATA.md for the keys.
-HOSTLIB_API void SetData(const std::string& key, const std::string& value);
-HOSTLIB_API std::string GetData(const std::string& key, const std::string& fallback = {});
-HOSTLIB_API bool HasData(const std::string& key);
-HOSTLIB_API int GetDataInt(const std::string& key, int fallback = 0);
+void SetData(const std::string& key, const std::string& value);
+std::string GetData(const std::string& key, const std::string& fallback = {});
+bool HasData(const std::string& key);
+int GetDataInt(const std::string& key, int fallback = 0);
 
 /// The window system's input state that GetCursorPos and GetKeyState report: a host moves the cursor and
 /// presses keys here before it forwards the matching window message (as the operating system would).
-HOSTLIB_API void SetCursor(int x, int y);
-HOSTLIB_API void SetKeyDown(int nVirtKey, bool bDown);
+void SetCursor(int x, int y);
+void SetKeyDown(int nVirtKey, bool bDown);
 
 /// Test-only: clock, calendar, screen, host data, journal counts and the sink back to their start values.
-HOSTLIB_API void ResetForTest();
+void ResetForTest();
 
 } // namespace host

@@ -10,7 +10,7 @@
 namespace host {
 
 /// The state of one window, as the toolkit keeps it.
-struct HOSTLIB_API WindowState {
+struct WindowState {
     std::string kind;     ///< "Dialog", "Button", "Check", "Edit", "Image", "List", "Progress", "Static"
     bool visible = false; ///< the window's own flag (a control of a hidden dialog can be visible)
     bool shown = false;   ///< visible, and its dialog too
@@ -31,12 +31,12 @@ struct HOSTLIB_API WindowState {
 };
 
 /// Describes dialog nDialog (template id) of the live dialog manager; false when there is none.
-HOSTLIB_API bool DescribeDialog(UINT nDialog, WindowState& out);
+bool DescribeDialog(UINT nDialog, WindowState& out);
 /// Describes control nControl of dialog nDialog; false when either does not exist.
-HOSTLIB_API bool DescribeControl(UINT nDialog, UINT nControl, WindowState& out);
+bool DescribeControl(UINT nDialog, UINT nControl, WindowState& out);
 
 /// Blocks until a message posted to a window (CLuBaseWindow::PostMessageA, from any thread) waits for the
 /// dialog manager's next Process, or until the time is up; true when one waits. A host's message loop.
-HOSTLIB_API bool WaitForPostedMessage(DWORD dwMilliseconds);
+bool WaitForPostedMessage(DWORD dwMilliseconds);
 
 } // namespace host

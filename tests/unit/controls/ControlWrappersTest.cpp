@@ -233,19 +233,20 @@ TEST_F(ControlWrappersTest, PressSelectsByCharacterWidthAndClampsToTheText) {
     Release(245, 120);
 }
 
-TEST_F(ControlWrappersTest, DragExtendsTheSelectionByRoundedScreenX) {
-    CSimEdit& edit = m_dlg.m_edit;
-    edit.SetWindowTextA("abcdefghijklmnopqrstuvwxyz");
-    Press(110 + 8 * 12, 120); // anchor 12
-    Drag(8 * 18 + 4, 120); // 18.5 rounds away from zero: caret 19 (x as delivered, edit left not subtracted)
-    EXPECT_EQ(edit.GetSelCaret(), 19);
-    EXPECT_EQ(edit.GetSel(), 12u | (19u << 16));
-    Drag(8 * 5 + 3, 120); // 5.375: caret 5, before the anchor
-    EXPECT_EQ(edit.GetSel(), 5u | (12u << 16));
-    Release(8 * 5 + 3, 120);
+TEST_F(ControlWrappersTest, DragSelectsFromTheAnchorToTheCharacterUnderTheCursor) {
+    CSimEdit& edit = m_dlg.m_edit; // the dialog sits at 100,50; the edit's left edge at screen x 110
+    edit.SetWindowTextA("password");
+    Press(110 + 8 * 2 + 1, 120); // anchor 2
+    Drag(110 + 8 * 5 - 3, 120);  // 4.625 from the edit's left rounds to 5
+    EXPECT_EQ(edit.GetSel(), 2u | (5u << 16)) << "the middle of the word, not to its end";
+    EXPECT_EQ(edit.GetSelCaret(), 5);
+    Drag(110 + 8 * 1 + 3, 120); // 1.375: caret 1, before the anchor
+    EXPECT_EQ(edit.GetSel(), 1u | (2u << 16));
+    Drag(90, 120); // left of the edit: clamped to the start
+    EXPECT_EQ(edit.GetSel(), 0u | (2u << 16));
+    Release(90, 120);
     const DWORD sel = edit.GetSel();
-    host::SetCursor(8 * 10, 120);
-    edit.OnMouseMove(0, POINT{8 * 10, 120}); // button up: no change
+    Drag(110 + 8 * 6, 120); // button up: no change
     EXPECT_EQ(edit.GetSel(), sel);
 }
 

@@ -2,6 +2,7 @@
 // cache.
 #include "GameDataSet.h"
 #include "GameGraphic.h"
+#include "Graphics.h"
 #include "GraphicsFixture.h"
 #include "LogCapture.h"
 #include "MyAni.h"
@@ -69,6 +70,38 @@ TEST_F(AnimationIndexTest, MalformedEntriesAreSkippedAndReportedOnce) {
 
     QueryMyAniMgr()->QueryAni("ani/Bad.ani", "Good");
     EXPECT_EQ(IndexComplaints(), 15) << "a file is parsed and reported once";
+}
+
+TEST_F(AnimationIndexTest, MissingIndexAndUndecodablePictureSayWhichFileOncePerLoad) {
+    m_dir.Write("data/ui/bad.png", "\x89PNG but not a picture");
+    m_dir.Write("ani/Control.ani", "[Bad]\nFrame0=data/ui/bad.png\nFrame1=box 2 2 FF000000\n");
+    for (int frame = 0; frame < 3; ++frame) {
+        EXPECT_FALSE(CGameGraphic::ShowAni("ani/None.ani", "Any", 0, 0));
+        CGameGraphic::ShowCtrlAni("Bad", 0, 0, 0);
+    }
+    EXPECT_EQ(testlog::Count("MSG", "animation index ani/None.ani missing"), 1);
+    EXPECT_EQ(
+        testlog::Count("MSG", "picture data/ui/bad.png cannot be decoded: not a BMP, JPEG or PNG picture"),
+        1);
+
+    CMyBitmap* bitmap = MyBitmapCreate("DATA\\UI\\BAD.PNG");
+    EXPECT_EQ(bitmap->GetWidth(), 0);
+    bitmap->Release();
+    EXPECT_EQ(testlog::Count("MSG", "picture DATA\\UI\\BAD.PNG cannot be decoded"), 1)
+        << "each bitmap load says so";
+
+    host::ClearGraphicsCaches();
+    EXPECT_FALSE(CGameGraphic::ShowAni("ani/None.ani", "Any", 0, 0));
+    EXPECT_EQ(testlog::Count("MSG", "animation index ani/None.ani missing"), 2) << "a new load looks again";
+}
+
+TEST_F(AnimationIndexTest, ProblemsPastTheTwentiethAreCountedInOneLine) {
+    std::string text = "[T]\nFrame0=box 1 1 FF000000\n";
+    for (int i = 0; i < 25; ++i) text += "Unknown" + std::to_string(i) + "=1\n";
+    m_dir.Write("ani/Many.ani", text);
+    EXPECT_NE(QueryMyAniMgr()->QueryAni("ani/Many.ani", "T"), nullptr);
+    EXPECT_EQ(testlog::Count("MSG", "animation index ani/Many.ani, line"), 20);
+    EXPECT_EQ(testlog::Count("MSG", "animation index ani/Many.ani, 5 more problems not listed"), 1);
 }
 
 TEST_F(AnimationIndexTest, FileAndTitleAreFoundWhateverTheirCase) {

@@ -15,9 +15,9 @@
 
 namespace gfxtest {
 
-inline constexpr int kScreenWidth = 64;
-inline constexpr int kScreenHeight = 48;
-inline constexpr DWORD kBackground = 0xFF000000;
+inline constexpr int SCREEN_WIDTH = 64;
+inline constexpr int SCREEN_HEIGHT = 48;
+inline constexpr DWORD BACKGROUND = 0xFF000000;
 
 /// 0xAARRGGBB of each pixel of a small test picture.
 using PixelFn = DWORD (*)(int x, int y);
@@ -25,14 +25,14 @@ using PixelFn = DWORD (*)(int x, int y);
 class GraphicsTest : public testing::Test {
 protected:
     void SetUp() override {
-        host::SetScreenSize(kScreenWidth, kScreenHeight);
+        host::SetScreenSize(SCREEN_WIDTH, SCREEN_HEIGHT);
         host::ClearGraphicsCaches();
     }
     void TearDown() override { host::ClearGraphicsCaches(); }
 
     void UseRaster() {
         host::UseCanvas(host::CanvasKind::Raster);
-        host::BeginFrame(kBackground);
+        host::BeginFrame(BACKGROUND);
     }
     void UseRecording() {
         host::UseCanvas(host::CanvasKind::Recording);
@@ -53,7 +53,7 @@ protected:
     static int PaintedPixels(int x0, int y0, int x1, int y1) {
         int count = 0;
         for (int y = y0; y < y1; ++y)
-            for (int x = x0; x < x1; ++x) count += Pixel(x, y) != kBackground ? 1 : 0;
+            for (int x = x0; x < x1; ++x) count += Pixel(x, y) != BACKGROUND ? 1 : 0;
         return count;
     }
 

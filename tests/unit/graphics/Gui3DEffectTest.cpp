@@ -57,7 +57,7 @@ TEST_F(Gui3DEffectTest, EffectWithoutAnimationIsOutlinedWhilePlaying) {
     EXPECT_EQ(ShowOnce(10, 20), "");
 
     host::UseCanvas(host::CanvasKind::Raster);
-    host::BeginFrame(kBackground);
+    host::BeginFrame(BACKGROUND);
     m_effect->Add("glow", 1, 1);
     m_effect->Show(10, 20);
     int width = 0, height = 0;

@@ -6,14 +6,14 @@
 
 namespace gfxtest {
 namespace {
-constexpr DWORD kRed = 0xFFFF0000;
-constexpr DWORD kGreen = 0xFF00FF00;
-constexpr DWORD kBlue = 0xFF0000FF;
-constexpr DWORD kWhite = 0xFFFFFFFF;
+constexpr DWORD RED = 0xFFFF0000;
+constexpr DWORD GREEN = 0xFF00FF00;
+constexpr DWORD BLUE = 0xFF0000FF;
+constexpr DWORD WHITE = 0xFFFFFFFF;
 
 DWORD Quadrants(int x, int y) {
-    if (y == 0) return x == 0 ? kRed : kGreen;
-    return x == 0 ? kBlue : kWhite;
+    if (y == 0) return x == 0 ? RED : GREEN;
+    return x == 0 ? BLUE : WHITE;
 }
 
 class RasterCanvasTest : public GraphicsTest {
@@ -25,25 +25,25 @@ protected:
 };
 
 TEST_F(RasterCanvasTest, BlockFillsItsRectangleWithoutRightAndBottomEdges) {
-    CMyBitmap::ShowBlock({10, 5, 20, 15}, kRed);
-    EXPECT_EQ(Pixel(10, 5), kRed);
-    EXPECT_EQ(Pixel(19, 14), kRed);
-    EXPECT_EQ(Pixel(20, 5), kBackground);
-    EXPECT_EQ(Pixel(10, 15), kBackground);
-    EXPECT_EQ(Pixel(9, 5), kBackground);
-    EXPECT_EQ(PaintedPixels(0, 0, kScreenWidth, kScreenHeight), 10 * 10);
+    CMyBitmap::ShowBlock({10, 5, 20, 15}, RED);
+    EXPECT_EQ(Pixel(10, 5), RED);
+    EXPECT_EQ(Pixel(19, 14), RED);
+    EXPECT_EQ(Pixel(20, 5), BACKGROUND);
+    EXPECT_EQ(Pixel(10, 15), BACKGROUND);
+    EXPECT_EQ(Pixel(9, 5), BACKGROUND);
+    EXPECT_EQ(PaintedPixels(0, 0, SCREEN_WIDTH, SCREEN_HEIGHT), 10 * 10);
 }
 
 TEST_F(RasterCanvasTest, TextDrawsGlyphsInsideItsMeasuredBox) {
     SIZE drawn{};
-    CMyBitmap::ShowString(4, 4, kWhite, "Hi", nullptr, 14, true, 0, 0xFF000000, &drawn);
+    CMyBitmap::ShowString(4, 4, WHITE, "Hi", nullptr, 14, true, 0, 0xFF000000, &drawn);
     const int width = CMyBitmap::GetStringWidth("Hi", 14);
     EXPECT_EQ(drawn.cx, width);
     EXPECT_EQ(drawn.cy, 14);
     ASSERT_GT(width, 7);
     const int inside = PaintedPixels(4, 4, 4 + width + 1, 4 + 14);
     EXPECT_GT(inside, 20);
-    EXPECT_EQ(PaintedPixels(0, 0, kScreenWidth, kScreenHeight), inside);
+    EXPECT_EQ(PaintedPixels(0, 0, SCREEN_WIDTH, SCREEN_HEIGHT), inside);
 }
 
 TEST_F(RasterCanvasTest, BitmapFromBmpDrawsAtNaturalAndStretchedSize) {
@@ -53,32 +53,32 @@ TEST_F(RasterCanvasTest, BitmapFromBmpDrawsAtNaturalAndStretchedSize) {
     EXPECT_EQ(bitmap->GetWidth(), 2);
     EXPECT_EQ(bitmap->GetHeight(), 2);
     bitmap->Show(10, 10);
-    EXPECT_EQ(Pixel(10, 10), kRed);
-    EXPECT_EQ(Pixel(11, 10), kGreen);
-    EXPECT_EQ(Pixel(10, 11), kBlue);
-    EXPECT_EQ(Pixel(11, 11), kWhite);
-    EXPECT_EQ(Pixel(12, 10), kBackground);
+    EXPECT_EQ(Pixel(10, 10), RED);
+    EXPECT_EQ(Pixel(11, 10), GREEN);
+    EXPECT_EQ(Pixel(10, 11), BLUE);
+    EXPECT_EQ(Pixel(11, 11), WHITE);
+    EXPECT_EQ(Pixel(12, 10), BACKGROUND);
 
     bitmap->Show(20, 20, 0, 4, 4);
-    EXPECT_EQ(Pixel(20, 20), kRed);
-    EXPECT_EQ(Pixel(21, 21), kRed);
-    EXPECT_EQ(Pixel(22, 20), kGreen);
-    EXPECT_EQ(Pixel(23, 23), kWhite);
-    EXPECT_EQ(Pixel(24, 20), kBackground);
+    EXPECT_EQ(Pixel(20, 20), RED);
+    EXPECT_EQ(Pixel(21, 21), RED);
+    EXPECT_EQ(Pixel(22, 20), GREEN);
+    EXPECT_EQ(Pixel(23, 23), WHITE);
+    EXPECT_EQ(Pixel(24, 20), BACKGROUND);
     bitmap->Release();
 }
 
 TEST_F(RasterCanvasTest, FrameWrittenAsPngReadsBackPixelForPixel) {
-    CMyBitmap::ShowBlock({0, 0, 10, 10}, kRed);
+    CMyBitmap::ShowBlock({0, 0, 10, 10}, RED);
     CMyBitmap::ShowBlock({10, 0, 20, 10}, 0x8000FF00);
-    CMyBitmap::ShowLine(0, 47, 63, 47, kBlue);
+    CMyBitmap::ShowLine(0, 47, 63, 47, BLUE);
     int width = 0, height = 0;
     const auto original = host::GetRasterPixels(width, height);
     ASSERT_TRUE(host::WriteFramePng((m_dir.Path() / "shot.png").string()));
 
     CMyBitmap* bitmap = MyBitmapCreate("shot.png");
-    ASSERT_EQ(bitmap->GetWidth(), kScreenWidth);
-    ASSERT_EQ(bitmap->GetHeight(), kScreenHeight);
+    ASSERT_EQ(bitmap->GetWidth(), SCREEN_WIDTH);
+    ASSERT_EQ(bitmap->GetHeight(), SCREEN_HEIGHT);
     host::BeginFrame(0xFF123456);
     bitmap->Show(0, 0);
     EXPECT_EQ(host::GetRasterPixels(width, height), original);
@@ -94,7 +94,7 @@ TEST_F(RasterCanvasTest, MissingOrDamagedPictureDrawsNothing) {
         bitmap->Show(0, 0, 0, 10, 10);
         bitmap->Release();
     }
-    EXPECT_EQ(PaintedPixels(0, 0, kScreenWidth, kScreenHeight), 0);
+    EXPECT_EQ(PaintedPixels(0, 0, SCREEN_WIDTH, SCREEN_HEIGHT), 0);
     EXPECT_EQ(MyBitmapCreate(nullptr), nullptr);
 }
 

@@ -8,7 +8,7 @@
 namespace gfxtest {
 namespace {
 
-constexpr const char* kControlIndex = R"([Btn]
+constexpr const char* CONTROL_INDEX = R"([Btn]
 Frame0=box 40 20 FF336699 FFFFFFFF OK
 Frame1=box 40 20 FF3366CC FFFFFFFF OK
 
@@ -24,7 +24,7 @@ protected:
     void SetUp() override {
         GraphicsTest::SetUp();
         UseRecording();
-        m_dir.Write("ani/Control.ani", kControlIndex);
+        m_dir.Write("ani/Control.ani", CONTROL_INDEX);
     }
 };
 
@@ -97,11 +97,11 @@ TEST_F(RecordingCanvasTest, NinePatchAndStringResourcesAreRecordedWhole) {
 }
 
 TEST_F(RecordingCanvasTest, RecordingStopsAtItsLimitAndCountsTheRest) {
-    constexpr std::size_t kExtra = 5;
-    for (std::size_t i = 0; i < host::kMaxRecordedOps + kExtra; ++i)
+    constexpr std::size_t EXTRA = 5;
+    for (std::size_t i = 0; i < host::MAX_RECORDED_OPS + EXTRA; ++i)
         CMyBitmap::ShowBlock({0, 0, 1, 1}, 0xFF000000);
-    EXPECT_EQ(host::GetRecordedOps().size(), host::kMaxRecordedOps);
-    EXPECT_EQ(host::DroppedOpCount(), kExtra);
+    EXPECT_EQ(host::GetRecordedOps().size(), host::MAX_RECORDED_OPS);
+    EXPECT_EQ(host::DroppedOpCount(), EXTRA);
     host::BeginFrame();
     EXPECT_EQ(host::DroppedOpCount(), 0u);
 }

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "GuiTestFixture.h"
+#include "lugui/LuGui_internal.h"
 
 namespace luguitest {
 namespace {
@@ -29,8 +30,9 @@ TEST_F(DialogManagerTest, RegistrationCreatesTheDialogInOrderAndLeavesItHidden) 
     EXPECT_FALSE(m_dlg.IsWindowVisible()) << "hidden even though its layout says Visible";
     EXPECT_EQ(m_dlg.GetGuiMgr(), m_mgr);
     EXPECT_EQ(host::JournalCount("gui.register"), 1);
-    ASSERT_EQ(m_dlg.GetControls().size(), CONTROL_COUNT);
-    EXPECT_EQ(m_dlg.GetControls().front(), &m_dlg.m_button) << "controls are kept in binding order";
+    ASSERT_EQ(LuGui::CLuToolkit::Controls(m_dlg).size(), CONTROL_COUNT);
+    EXPECT_EQ(LuGui::CLuToolkit::Controls(m_dlg).front(), &m_dlg.m_button)
+        << "controls are kept in binding order";
     EXPECT_EQ(m_dlg.GetControl(IDC_EDIT), &m_dlg.m_edit);
     EXPECT_EQ(m_dlg.m_edit.GetParentDialog(), &m_dlg);
     EXPECT_EQ(m_dlg.m_edit.GetGuiMgr(), m_mgr);
@@ -45,7 +47,7 @@ TEST_F(DialogManagerTest, RegisteringAgainRecreatesWithoutDuplicates) {
     Start();
     ASSERT_TRUE(m_mgr->RegisterDialog(&m_dlg, 0, 0));
     EXPECT_THAT(m_dlg.TakeCalls(), ElementsAre("PreSetParam", "PreInitData", "DoDataExchange", "MessageMap"));
-    EXPECT_EQ(m_dlg.GetControls().size(), CONTROL_COUNT);
+    EXPECT_EQ(LuGui::CLuToolkit::Controls(m_dlg).size(), CONTROL_COUNT);
     Open(m_dlg);
     EXPECT_EQ(OpsOfKind(Frame(), "nine").size(), 1u) << "the manager lists the dialog once";
     ClickOn(m_dlg.m_button);
@@ -263,7 +265,7 @@ TEST_F(DialogManagerTest, ReleaseLeavesTheCallersDialogsIntactAndDetached) {
     m_mgr = nullptr;
     EXPECT_EQ(host::JournalCount("gui.release"), 1);
 
-    EXPECT_EQ(m_dlg.GetControls().size(), CONTROL_COUNT);
+    EXPECT_EQ(LuGui::CLuToolkit::Controls(m_dlg).size(), CONTROL_COUNT);
     EXPECT_EQ(m_dlg.GetControl(IDC_BUTTON), &m_dlg.m_button);
     EXPECT_STREQ(m_dlg.m_edit.GetWindowTextA(), "kept");
     EXPECT_STREQ(m_dlg.m_button.GetWindowTextA(), "Go");

@@ -2,6 +2,9 @@
 // lines.
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <iterator>
+
 #include "LogCapture.h"
 #include "TempClientDir.h"
 #include "resources/FlashStringMgr.h"
@@ -20,7 +23,7 @@ TEST(FlashStringMgr, ParsesIdsValuesAndComments) {
     EXPECT_STREQ(mgr.GetStr(12), "a=b");
     EXPECT_STREQ(mgr.GetStr(5), "NOSTR 5");
     EXPECT_STREQ(mgr.GetStr(13), "");
-    EXPECT_STREQ(mgr.GetStr(14), "trailing\r") << "only the line feed is removed";
+    EXPECT_STREQ(mgr.GetStr(14), "trailing") << "a carriage return before the line feed goes with it";
     EXPECT_EQ(mgr.GetStringCount(), 3u);
     EXPECT_FALSE(mgr.IsLoading());
 }
@@ -35,6 +38,44 @@ TEST(FlashStringMgr, LaterDuplicateWinsWithOneWarning) {
     const auto& warn = testlog::Records().back();
     EXPECT_EQ(testlog::Key(warn, "id"), "7");
     EXPECT_FALSE(testlog::Key(warn, "svr_time").empty());
+}
+
+TEST(FlashStringMgr, RepeatedIdsPastAHundredAreSummedUpInOneLine) {
+    std::string table;
+    for (int i = 0; i < 100000; ++i) table += "50000001=[19968-40869]|Text\n";
+    TempClientDir dir;
+    CFlashStringMgr mgr;
+    testlog::Expect("WARN", "strres have same id");
+    LoadTable(mgr, dir, table);
+    EXPECT_EQ(testlog::Count("WARN", "strres have same id"), 101);
+    const auto& summary = testlog::Records().back();
+    EXPECT_EQ(summary.message, "strres have same id, only the first 100 logged");
+    EXPECT_EQ(testlog::Key(summary, "count"), "99999");
+    EXPECT_EQ(mgr.GetRangedCount(), 1u);
+
+    LoadTable(mgr, dir, "7=a\n7=b\n");
+    EXPECT_EQ(testlog::Count("WARN", "strres have same id"), 102) << "each load counts anew";
+}
+
+TEST(FlashStringMgr, WindowsLineEndsReadLikeLineFeeds) {
+    const std::string lf = "; comment\n3110000=Version %s\n50000001=[19968-40869]|Text\n7=a\rb\n8=\n9=last";
+    std::string crlf;
+    for (char c : lf) crlf += c == '\n' ? std::string("\r\n") : std::string(1, c);
+    TempClientDir dir;
+    CFlashStringMgr fromLf, fromCrlf;
+    LoadTable(fromLf, dir, lf);
+    LoadTable(fromCrlf, dir, crlf);
+    ASSERT_EQ(fromCrlf.GetStringCount(), fromLf.GetStringCount());
+    for (std::uint32_t id : {3110000u, 50000001u, 7u, 8u, 9u})
+        EXPECT_STREQ(fromCrlf.GetStr(id), fromLf.GetStr(id)) << id;
+    EXPECT_STREQ(fromCrlf.GetStr(7), "a\rb") << "a carriage return inside a line stays";
+    ASSERT_EQ(fromCrlf.GetRangedCount(), 1u);
+    EXPECT_STREQ(fromCrlf.GetRanged(0).second, "Text");
+
+    // The line buffer counts the line as read with the carriage return already gone.
+    LoadTable(fromCrlf, dir, "9=" + std::string(1020, 'v') + "\r\n10=after\r\n");
+    EXPECT_EQ(std::string(fromCrlf.GetStr(9)), std::string(1020, 'v'));
+    EXPECT_STREQ(fromCrlf.GetStr(10), "after");
 }
 
 TEST(FlashStringMgr, RangedEntriesAreKeyedByTheirRange) {
@@ -90,4 +131,52 @@ TEST(FlashStringMgr, ClearKeepsNothingAndEmptyFileLoadsNothing) {
     LoadTable(mgr, dir, "");
     EXPECT_FALSE(mgr.IsLoading());
     EXPECT_STREQ(mgr.GetStr(1), "NOSTR 1");
+}
+
+// ---- server configuration ------------------------------------------------------------------------
+
+TEST(ServerConfiguration, DamagedFileWithHugeCountsLoadsOnlyWhatItHolds) {
+    TempClientDir dir;
+    std::ifstream in(std::string(FLASHSIM_TEST_DATA) + "/servercfg/damaged_ServerCfg.ini", std::ios::binary);
+    ASSERT_TRUE(in);
+    dir.Write("ini/ServerCfg.ini", std::string(std::istreambuf_iterator<char>(in), {}));
+    CFlashStringMgr mgr;
+    LoadTable(mgr, dir, "1=x\n");
+
+    const CfgGroupMap* groups = mgr.GetCfgGroups(2);
+    ASSERT_NE(groups, nullptr);
+    EXPECT_EQ(groups->size(), 1024u) << "groups past the bound are not read";
+    EXPECT_EQ(groups->count(1098), 0u);
+    EXPECT_EQ(mgr.GetCfgGroups(4), nullptr) << "a negative group count configures nothing";
+
+    const SCfgGroup* first = mgr.GetCfgGroup(2, 0);
+    ASSERT_NE(first, nullptr);
+    EXPECT_EQ(first->strGroupTips, "First");
+    EXPECT_TRUE(first->bSpecialMark);
+    EXPECT_TRUE(first->bAchTips) << "server 1024 is within the bound";
+    ASSERT_NE(mgr.GetCfgServer(2, 0, 0), nullptr);
+    EXPECT_EQ(mgr.GetCfgServer(2, 0, 0)->dwNameColor, 0xFF00FF00u);
+    ASSERT_NE(mgr.GetCfgServer(2, 0, 8), nullptr);
+    EXPECT_TRUE(mgr.GetCfgServer(2, 0, 8)->bAchTips);
+    EXPECT_EQ(mgr.GetCfgServer(2, 0, 9), nullptr) << "server 1025 is past the bound";
+    EXPECT_EQ(mgr.GetCfgServer(2, 0, 2), nullptr) << "\"Server0999\" is not the key of server 999";
+    EXPECT_EQ(first->mapServers.size(), 3u)
+        << "servers 1 and 1024, and one of defaults for the numbers without keys";
+
+    const SCfgServer* marked = mgr.GetCfgServer(2, 499, 6);
+    ASSERT_NE(marked, nullptr);
+    EXPECT_EQ(marked->nAchStart, 10);
+    EXPECT_EQ(marked->nAchEnd, 20);
+    EXPECT_FALSE(mgr.GetCfgGroup(2, 1)->bAchTips);
+    EXPECT_EQ(mgr.GetCfgGroup(2, 1)->mapServers.size(), 1u);
+}
+
+TEST(ServerConfiguration, MissingFileSaysSoOncePerLoad) {
+    TempClientDir dir;
+    CFlashStringMgr mgr;
+    LoadTable(mgr, dir, "1=x\n");
+    LoadTable(mgr, dir, "1=x\n");
+    ASSERT_EQ(testlog::Count("INFO", "server configuration missing"), 2);
+    EXPECT_EQ(testlog::Key(testlog::Records().front(), "file_name"), "ini/ServerCfg.ini");
+    EXPECT_EQ(mgr.GetCfgGroups(2), nullptr);
 }
