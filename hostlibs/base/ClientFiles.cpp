@@ -65,3 +65,8 @@ BOOL PathFileExistsA(const char* szPath) {
     if (!szPath || !*szPath) return FALSE;
     return txt::ClientPath::Resolve(szPath, txt::ClientEntry::Any).empty() ? FALSE : TRUE;
 }
+
+std::size_t Safefwrite(const void* pData, std::size_t nSize, std::size_t nCount, ZrFile* pFile) {
+    if (!pData || !pFile) return 0;
+    return std::fwrite(pData, nSize, nCount, pFile->fp);
+}

@@ -1,5 +1,8 @@
 // Our game data library's data objects, driven by host data (see docs/HOSTDATA.md) and recording what they
 // are told.
+#include <algorithm>
+#include <cstdint>
+#include <cstdio>
 #include <string>
 
 #include "GameData.h"
@@ -61,7 +64,28 @@ class CMyGameDataEn final : public IMyGameDataEn {
 public:
     int GetRegisterArg() override { return host::GetDataInt("gamedata.registerarg", 0); }
 };
+class CMyGameData final : public IMyGameData {
+public:
+    bool GetWindowRecord(int nId, RECT& rcOut) override {
+        const std::string key = "layout." + std::to_string(nId);
+        if (!host::HasData(key)) return false;
+        int values[4] = {0, 0, 0, 0};
+        const std::string text = host::GetData(key);
+        if (std::sscanf(text.c_str(), "%d %d %d %d", &values[0], &values[1], &values[2], &values[3]) != 4)
+            return false;
+        const auto add = [](long long a, long long b) {
+            return static_cast<LONG>(std::clamp<long long>(a + b, INT32_MIN, INT32_MAX));
+        };
+        rcOut = RECT{values[0], values[1], add(values[0], values[2]), add(values[1], values[3])};
+        return true;
+    }
+};
 } // namespace
+
+IMyGameData* MyGameDataQuery() {
+    static CMyGameData data;
+    return &data;
+}
 
 IRoleData* RoleDataQuery() {
     static CRoleData data;

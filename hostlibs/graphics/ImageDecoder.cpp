@@ -37,6 +37,8 @@ std::optional<Image> ImageDecoder::Decode(const std::vector<std::uint8_t>& bytes
     int width = 0, height = 0, channels = 0;
     if (!stbi_info_from_memory(data, length, &width, &height, &channels))
         return Refuse(error, "not a BMP, JPEG or PNG picture");
+    // NOTE: stb reports a top-down bitmap's height as stored, negative; the picture itself loads upright.
+    if (height < 0 && height != INT_MIN) height = -height;
     if (width <= 0 || height <= 0 || width > MAX_SIDE || height > MAX_SIDE)
         return Refuse(error, "size " + std::to_string(width) + "x" + std::to_string(height) + " refused");
     stbi_uc* pixels = stbi_load_from_memory(data, length, &width, &height, &channels, RGBA_CHANNELS);

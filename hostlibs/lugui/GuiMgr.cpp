@@ -12,6 +12,7 @@
 #include "LuEdit.h"
 #include "LuGui_internal.h"
 #include "WindowClip.h"
+#include "PostedMessages.h"
 #include "hostlibs/HostEnv.h"
 
 namespace LuGui {
@@ -96,6 +97,7 @@ bool CGuiMgr::RegisterDialog(CLuDialog* pDialog, int, int) {
 // ---- per frame -----------------------------------------------------------------------------------
 
 void CGuiMgr::Process() {
+    DeliverPostedMessages();
     const DWORD dwNow = TimeGet();
     // Activation may show or hide dialogs, which edits the list: take the due ones out first.
     std::vector<CLuDialog*> due;
@@ -107,6 +109,14 @@ void CGuiMgr::Process() {
     for (CLuDialog* pDialog : due)
         if (pDialog->IsWindowVisible()) CLuToolkit::Activate(*pDialog);
     ShowHoverTip();
+}
+
+void CGuiMgr::DeliverPostedMessages() {
+    // NOTE: one at a time, at most as many as were queued when the frame began: a handler may post again
+    // (that waits for the next frame) or destroy a window, which drops its queued messages.
+    CPostedMessages::SPosted msg{};
+    for (std::size_t n = CPostedMessages::Count(); n > 0 && CPostedMessages::TakeOneFor(this, msg); --n)
+        msg.pWnd->WindowProc(msg.uMsg, msg.wParam, msg.lParam);
 }
 
 void CGuiMgr::KeepTopMostOnTop() {

@@ -70,6 +70,8 @@ private:
     static bool IsKeyMessage(UINT uMsg);
     void NotifyLostFocus(CLuDialog* pPressed);
     void ShowHoverTip();
+    /// Hands the messages posted to this manager's windows to their WindowProc.
+    void DeliverPostedMessages();
     void DrawTips();
 
     CLayoutFile m_layout;

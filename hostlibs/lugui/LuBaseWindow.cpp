@@ -13,6 +13,7 @@
 #include "LuGui.h"
 #include "LuGui_internal.h"
 #include "LuLayoutRecord.h"
+#include "PostedMessages.h"
 
 namespace LuGui {
 
@@ -27,6 +28,7 @@ CLuBaseWindow::CLuBaseWindow() : m_strBgAniFile(CONTROL_ANI_FILE) {
 }
 
 CLuBaseWindow::~CLuBaseWindow() {
+    CPostedMessages::Drop(this);
     SetBgEffect(nullptr);
     SetFgEffect(nullptr);
 }

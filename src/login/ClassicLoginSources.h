@@ -7,9 +7,7 @@ namespace LuGui {
 class CLuBaseWindow;
 }
 
-/// NOTE: a seam. The QR renderer (file "data/QRCode.bmp", lock failure "globalLock fail") and the image
-/// downloader plug in here through CDlgFlashLogin::SetSources; until they do, keys draw no picture and no
-/// keyboard picture is fetched.
+/// The dialog's own are in CClassicLoginAssets; tests plug in others through CDlgFlashLogin::SetSources.
 class IClassicLoginSources {
 public:
     /// Renders the key as the QR picture and holds its bitmap; on failure the previous one stays.

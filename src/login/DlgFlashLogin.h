@@ -13,6 +13,7 @@
 #include "controls/SimEdit.h"
 #include "controls/SimList.h"
 #include "controls/SimStatic.h"
+#include "login/ClassicLoginAssets.h"
 #include "login/ClassicLoginSources.h"
 #include "login/LoginInput.h"
 #include "login/SoftKeyboard.h"
@@ -84,7 +85,8 @@ public:
     void SetQRKey(const char* szKey, int nScale);
     void SetQRStatus(int nStatus) { m_nQRStatus = nStatus; }
 
-    /// SEAM: where the QR renderer and the image downloader plug in (null: none yet); not owned.
+    /// Where the QR picture and the keyboard picture come from: the dialog's own renderer and downloader
+    /// unless a test plugs in others (null: none); not owned.
     void SetSources(IClassicLoginSources* pSources) { m_pSources = pSources; }
 
     int GetQRStatus() const { return m_nQRStatus; }
@@ -158,7 +160,8 @@ private:
     int m_nQRStatus = QR_REQUESTED;
     /// The QR-login switch as it was when the controls were bound.
     bool m_bQRLogin = false;
-    IClassicLoginSources* m_pSources = nullptr;
+    CClassicLoginAssets m_assets;
+    IClassicLoginSources* m_pSources = &m_assets;
     UINT m_nPressActedOn = 0;
     /// Where the token row stood in the layout, before a token-only offset moved it.
     struct STokenRowOrigin {

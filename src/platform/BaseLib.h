@@ -41,6 +41,8 @@ ZrFile* Safefopen(const char* szPath, const char* szMode);
 /// Reads one line (with its line feed) into szBuf of nSize bytes; null at the end of the file.
 char* Safefgets(char* szBuf, int nSize, ZrFile* pFile);
 void Safefclose(ZrFile* pFile);
+/// Writes nCount items of nSize bytes; returns how many items were written (fwrite).
+std::size_t Safefwrite(const void* pData, std::size_t nSize, std::size_t nCount, ZrFile* pFile);
 /// The client directory (the game's current directory), as GetCurrentDirectoryA gives it.
 std::string GetClientDirectory();
 /// Whether a file or folder exists (an absolute path, or one relative to the client directory).
@@ -103,12 +105,21 @@ public:
     static HANDLE CreateThreadProxy(void* pSecurity, std::size_t nStackSize, LPTHREAD_START_ROUTINE pfn,
                                     void* pParam, DWORD dwFlags, DWORD* pThreadId);
 };
+/// CreateThreadProxy flag: the thread waits for ResumeThread before it runs.
+inline constexpr DWORD CREATE_SUSPENDED = 0x4;
+/// Lets a thread created suspended run; returns its previous suspend count (1), or 0xFFFFFFFF for a handle
+/// that is no thread.
+DWORD ResumeThread(HANDLE hThread);
+inline constexpr int THREAD_PRIORITY_NORMAL = 0;
+inline constexpr int THREAD_PRIORITY_ABOVE_NORMAL = 1;
+/// Records a thread's priority (on this platform threads all run at the process's priority).
+BOOL SetThreadPriority(HANDLE hThread, int nPriority);
 inline constexpr DWORD INFINITE = 0xFFFFFFFFu;
 inline constexpr DWORD WAIT_OBJECT_0 = 0;
 inline constexpr DWORD WAIT_TIMEOUT = 258;
 /// Waits for a thread handle to end; only INFINITE is honoured exactly, any other time polls once.
 DWORD WaitForSingleObject(HANDLE hHandle, DWORD dwMilliseconds);
-/// Releases a handle (joining a thread that has ended, detaching one that has not).
+/// Releases a thread or file handle (joining a thread that has ended, detaching one that has not).
 BOOL CloseHandle(HANDLE hHandle);
 
 // ---- INI files -----------------------------------------------------------------------------------

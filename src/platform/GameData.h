@@ -70,3 +70,15 @@ protected:
     ~IMyGameDataEn() = default;
 };
 IMyGameDataEn* MyGameDataEnQuery();
+
+/// The game data library's window records (`MyGameDataQuery`): places and sizes the client keeps per window
+/// number.
+class IMyGameData {
+public:
+    /// Window record nId (its screen rectangle); false when the game data has no such record.
+    virtual bool GetWindowRecord(int nId, RECT& rcOut) = 0;
+
+protected:
+    ~IMyGameData() = default;
+};
+IMyGameData* MyGameDataQuery();

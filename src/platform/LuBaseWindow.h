@@ -48,6 +48,11 @@ public:
     /// Shows (SW_SHOW) or hides (SW_HIDE); returns whether the window was visible before.
     virtual BOOL ShowWindow(int nCmdShow);
 
+    /// Queues a message for this window and returns at once; any thread may post. The dialog manager's
+    /// Process delivers queued messages to WindowProc on the host's thread, in the order they were posted;
+    /// a window's destruction drops its undelivered ones. The caller keeps the window alive during the call.
+    BOOL PostMessageA(UINT uMsg, WPARAM wParam, LPARAM lParam);
+
     // ---- identity and tree ----------------------------------------------------------------------
 
     /// The control id, or the template id of a dialog.

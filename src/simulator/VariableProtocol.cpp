@@ -193,6 +193,19 @@ void VarSetKeyDown(CFlashSimulator& sim, const char* szValue) {
 void VarQrCodeLogin(CFlashSimulator& sim, const char*) {
     sim.NotifyHost("CMD_ENTERGAME", "1");
 }
+void VarSetQRKey(CFlashSimulator& sim, const char* szValue) {
+    // Both dialogs get every key, shown or not, so that either can show the code when it opens.
+    CDialogSet& dialogs = sim.Dialogs();
+    dialogs.m_dlgFlashLogin.SetQRKey(szValue, CQRCodeRenderer::SCALE);
+    dialogs.m_dlgScanCodeLogin.SetQRKey(szValue, CQRCodeRenderer::SCALE);
+    dialogs.m_dlgFlashLogin.SetQRStatus(CDlgScanCodeLoginEn::QR_SHOWN);
+    dialogs.m_dlgScanCodeLogin.SetQRStatus(CDlgScanCodeLoginEn::QR_SHOWN);
+}
+void VarSetQRCodeStatus(CFlashSimulator& sim, const char* szValue) {
+    const int nStatus = SafeAtoi(szValue);
+    sim.Dialogs().m_dlgFlashLogin.SetQRStatus(nStatus);
+    sim.Dialogs().m_dlgScanCodeLogin.SetQRStatus(nStatus);
+}
 void VarWeiXinLogin(CFlashSimulator& sim, const char*) {
     sim.NotifyHost("CMD_ENTERGAME", "2");
 }
@@ -445,8 +458,8 @@ struct VariableTables {
             {"var_musicswitch", &VarMusicSwitch},
             {"var_music", &VarMusic},
             {"setloginerror", &VarLoginError},
-            {"setqrkey", &VarDialogPending},
-            {"setqrcodestatus", &VarDialogPending},
+            {"setqrkey", &VarSetQRKey},
+            {"setqrcodestatus", &VarSetQRCodeStatus},
             {"setregisteropen", &VarSetRegisterOpen},
             {"setpwdincorrect", &VarPwdIncorrect},
             {"resetmainpath", &VarResetMainPath},

@@ -91,6 +91,10 @@ ScenarioRunner::~ScenarioRunner() {
     g_pTranscript = nullptr;
     g_answers.clear();
     g_pAnsweringSim = nullptr;
+    if (!m_strScratchDir.empty()) {
+        std::error_code ec;
+        std::filesystem::remove_all(m_strScratchDir, ec);
+    }
 }
 
 void ScenarioRunner::InstallLogSink() {
@@ -158,6 +162,7 @@ void ScenarioRunner::Execute(const ScenarioStep& step) {
     if (name == "show") return StepShow(step);
     if (name == "send") return StepSend(step);
     if (name == "answer") return StepAnswer(step);
+    if (name == "scratch") return StepScratch(step);
     Fail(step, "unknown step \"" + EscapeText(name) + "\"");
 }
 
@@ -168,6 +173,22 @@ void ScenarioRunner::StepDir(const ScenarioStep& step) {
     namespace fs = std::filesystem;
     const fs::path base = fs::path(m_options.scenarioPath).parent_path();
     host::SetClientDir(fs::absolute(base / UnescapeValue(step.words[1])).lexically_normal().string());
+}
+
+void ScenarioRunner::StepScratch(const ScenarioStep& step) {
+    // The files the system writes (QR pictures, the keyboard picture) go to a copy, never into res/.
+    if (step.words.size() != 1) return Fail(step, "scratch takes nothing");
+    if (!m_strScratchDir.empty()) return Fail(step, "scratch is made once per run");
+    namespace fs = std::filesystem;
+    std::error_code ec;
+    std::string pattern = (fs::temp_directory_path(ec) / "flashsim_scratch_XXXXXX").string();
+    if (!::mkdtemp(pattern.data())) return Fail(step, "cannot make a scratch directory");
+    m_strScratchDir = pattern;
+    fs::copy(GetClientDirectory(), m_strScratchDir, fs::copy_options::recursive, ec);
+    if (ec) return Fail(step, "cannot copy the client directory: " + ec.message());
+    for (const char* szFolder : {"data", "k7pack/data"})
+        fs::create_directories(fs::path(m_strScratchDir) / szFolder, ec);
+    host::SetClientDir(m_strScratchDir);
 }
 
 void ScenarioRunner::StepCreate(const ScenarioStep& step) {

@@ -58,6 +58,7 @@ private:
     void StepShow(const ScenarioStep& step);
     void StepSend(const ScenarioStep& step);
     void StepAnswer(const ScenarioStep& step);
+    void StepScratch(const ScenarioStep& step);
 
     /// Sends one window message as the game client's window does: PreTranslateMessage, then WindowProc.
     void SendToWindow(UINT uMsg, WPARAM wParam, LPARAM lParam, bool bPreTranslate);
@@ -77,4 +78,6 @@ private:
     ELogMode m_eLog = ELogMode::Off;
     bool m_bFailed = false;
     std::set<std::string> m_reportedOverflows;
+    /// The scratch copy of the client directory made by "scratch", removed when the run ends.
+    std::string m_strScratchDir;
 };

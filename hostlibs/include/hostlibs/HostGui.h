@@ -38,4 +38,8 @@ bool DescribeControl(UINT nDialog, UINT nControl, WindowState& out);
 /// reaches it (the keyboard picture's download posts 12135); false when there is no such dialog.
 bool SendDialogMessage(UINT nDialog, UINT uMsg, WPARAM wParam, LPARAM lParam);
 
+/// Blocks until a message posted to a window (CLuBaseWindow::PostMessageA, from any thread) waits for the
+/// dialog manager's next Process, or until the time is up; true when one waits. A host's message loop.
+bool WaitForPostedMessage(DWORD dwMilliseconds);
+
 } // namespace host
