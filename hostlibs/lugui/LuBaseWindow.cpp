@@ -130,6 +130,8 @@ bool CLuBaseWindow::HitTest(POINT pt) const {
 BOOL CLuBaseWindow::EnableWindow(BOOL bEnable) {
     const bool bWasDisabled = !m_bEnabled;
     m_bEnabled = bEnable != FALSE;
+    // As with WM_SHOWWINDOW, the window hears of real changes only: enabling an enabled window says nothing.
+    if (bWasDisabled == m_bEnabled) WindowProc(WM_ENABLE, m_bEnabled ? 1 : 0, 0);
     return bWasDisabled ? TRUE : FALSE;
 }
 

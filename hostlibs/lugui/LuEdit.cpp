@@ -65,6 +65,13 @@ LRESULT CLuEdit::WindowProc(UINT uMsg, WPARAM wParam, LPARAM lParam) {
     return CLuCtrl::WindowProc(uMsg, wParam, lParam);
 }
 
+BOOL CLuEdit::ShowWindow(int nCmdShow) {
+    // NOTE: a hidden edit that kept the focus would take the next typed key; the manager only noticed when
+    // that key came.
+    if (nCmdShow == SW_HIDE && IsFocus()) m_pGuiMgr->SetFocusEdit(nullptr);
+    return CLuCtrl::ShowWindow(nCmdShow);
+}
+
 void CLuEdit::OnLButtonDown(UINT, POINT) {
     // NOTE: the press only takes the focus; where the caret goes is the business of the class that knows
     // the font's character width.

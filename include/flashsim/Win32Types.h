@@ -48,6 +48,7 @@ struct MSG {
 inline constexpr BOOL TRUE = 1;
 inline constexpr BOOL FALSE = 0;
 
+inline constexpr UINT WM_ENABLE = 0x000A;
 inline constexpr UINT WM_SHOWWINDOW = 0x0018;
 inline constexpr UINT WM_KEYDOWN = 0x0100;
 inline constexpr UINT WM_KEYUP = 0x0101;

@@ -90,6 +90,7 @@ public:
     // ---- state ----------------------------------------------------------------------------------
 
     BOOL IsWindowVisible() const { return m_bVisible ? TRUE : FALSE; }
+    /// A real change tells the window (message 10, WM_ENABLE, first parameter the new state).
     BOOL EnableWindow(BOOL bEnable);
     BOOL IsWindowEnabled() const { return m_bEnabled ? TRUE : FALSE; }
     /// The hidden state: a window that is laid out and shown but must not draw (layout key "HideState").

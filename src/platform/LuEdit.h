@@ -20,6 +20,8 @@ public:
     /// Background, text (stars for a password edit), selection and, with the focus, a blinking caret.
     int Show() override;
     LRESULT WindowProc(UINT uMsg, WPARAM wParam, LPARAM lParam) override;
+    /// Hiding the edit takes the keyboard focus from it at once.
+    BOOL ShowWindow(int nCmdShow) override;
     void OnLButtonDown(UINT nFlags, POINT point) override;
     /// Typed characters (UTF-16 code units; surrogate pairs are joined): 8 deletes backwards, other codes
     /// below 32 are ignored; the selection is replaced; a character that would pass the limit is refused.

@@ -122,7 +122,8 @@ public:
     /// Opens the message box; for the error and input kinds with a text (null keeps the current one).
     virtual void ShowMessageBox(int nKind, const char* szText) = 0;
     virtual void ShowSwitchLanguage() = 0;
-    /// Shows or hides the screen with a dialog template id; nothing for an unknown id.
+    /// Shows or hides the screen with a dialog template id; nothing for an unknown id. Showing the WeChat
+    /// login (1011) opens it on its QR page.
     virtual void ShowScreen(UINT nTemplateId, bool bShow) = 0;
     /// Opens a non-empty web address with the system's shell.
     virtual void OpenWebAddress(const char* szAddress) = 0;

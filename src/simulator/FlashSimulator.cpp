@@ -457,6 +457,8 @@ void CFlashSimulator::ShowMessageBox(int nKind, const char* szText) {
 }
 
 void CFlashSimulator::ShowScreen(UINT nTemplateId, bool bShow) {
+    // NOTE: opening the WeChat login also picks its page and tells the host to lay its web page over it.
+    if (nTemplateId == CDlgWeiXinLogin::IDD && bShow) return m_pDialogs->m_dlgWeiXinLogin.Open();
     if (CSimDialog* pDialog = m_pDialogs->Find(nTemplateId)) pDialog->ShowWindow(bShow ? SW_SHOW : SW_HIDE);
 }
 

@@ -103,7 +103,19 @@ void VarPlayLoginWardSafeToken(CFlashSimulator& sim, const char* szValue) {
     sim.Dialogs().m_dlgSelectEdition.ShowWindow(SW_HIDE);
     sim.Dialogs().m_dlgFlashLogin.ShowWindow(SW_HIDE);
     sim.Dialogs().m_dlgWardSafeToken.ShowWindow(SW_SHOW);
-    VarDialogPending(sim, szValue); // the token dialog starts its entry once it exists
+    sim.Dialogs().m_dlgWardSafeToken.StartEntry();
+}
+
+void VarPlayLoginWardSafeTokenError(CFlashSimulator& sim, const char*) {
+    sim.Dialogs().m_dlgWardSafeToken.ShowTokenError();
+}
+
+void VarWeiXinWardSafeToken(CFlashSimulator& sim, const char*) {
+    sim.Dialogs().m_dlgWeiXinLogin.AskForToken();
+}
+
+void VarLoginWardSafeTokenError(CFlashSimulator& sim, const char*) {
+    sim.Dialogs().m_dlgWeiXinLogin.ShowTokenError();
 }
 
 void VarLoginUser(CFlashSimulator& sim, const char* szValue) {
@@ -141,18 +153,28 @@ void VarShowSoftKb(CFlashSimulator& sim, const char* szValue) {
     sim.Dialogs().m_dlgFlashLogin.SetSoftKeyAllowed(!EqualsNoCase(szValue, "0"));
 }
 
-void VarSafeToken(CFlashSimulator& sim, const char* szValue) {
+void VarLoginHelmSafeWeiXin(CFlashSimulator& sim, const char* szValue) {
     DebugMsg("safetoken : %s", szValue);
-    // NOTE: the WeChat dialog's field 5 takes the text once that dialog exists.
+    sim.Dialogs().m_dlgWeiXinLogin.SetInputText(szValue, INPUT_WEIXIN_TOKEN);
 }
+
+// The code as shown: one "*" per byte, at most 255 of them.
+struct SMaskedToken {
+    explicit SMaskedToken(const char* szValue) {
+        SafeSprintf(text, sizeof text, "%s", szValue);
+        for (char* p = text; *p; ++p) *p = '*';
+    }
+    char text[SAFE_TOKEN_BUFFER_SIZE];
+};
 
 void VarLoginHelmSafe(CFlashSimulator& sim, const char* szValue) {
     DebugMsg("safetoken : %s", szValue);
-    // The code is shown masked, one "*" per byte, at most 255 of them.
-    char masked[SAFE_TOKEN_BUFFER_SIZE];
-    SafeSprintf(masked, sizeof masked, "%s", szValue);
-    for (char* p = masked; *p; ++p) *p = '*';
-    sim.Dialogs().m_dlgNewFlashLogin.SetInputText(masked, INPUT_TOKEN);
+    sim.Dialogs().m_dlgNewFlashLogin.SetInputText(SMaskedToken(szValue).text, INPUT_TOKEN);
+}
+
+void VarLoginHelmSafeWard(CFlashSimulator& sim, const char* szValue) {
+    DebugMsg("safetoken : %s", szValue);
+    sim.Dialogs().m_dlgWardSafeToken.SetInputText(SMaskedToken(szValue).text, INPUT_WARD_TOKEN);
 }
 
 void VarStartToFlash(CFlashSimulator& sim, const char* szValue) {
@@ -161,6 +183,22 @@ void VarStartToFlash(CFlashSimulator& sim, const char* szValue) {
 
 void VarEndToFlash(CFlashSimulator& sim, const char* szValue) {
     sim.Dialogs().m_dlgNewFlashLogin.SetSelectionEdge(true, SafeAtoi(szValue));
+}
+
+void VarStartToFlashWeiXin(CFlashSimulator& sim, const char* szValue) {
+    sim.Dialogs().m_dlgWeiXinLogin.SetSelectionEdge(false, SafeAtoi(szValue));
+}
+
+void VarEndToFlashWeiXin(CFlashSimulator& sim, const char* szValue) {
+    sim.Dialogs().m_dlgWeiXinLogin.SetSelectionEdge(true, SafeAtoi(szValue));
+}
+
+void VarStartToFlashWard(CFlashSimulator& sim, const char* szValue) {
+    sim.Dialogs().m_dlgWardSafeToken.SetSelectionEdge(false, SafeAtoi(szValue));
+}
+
+void VarEndToFlashWard(CFlashSimulator& sim, const char* szValue) {
+    sim.Dialogs().m_dlgWardSafeToken.SetSelectionEdge(true, SafeAtoi(szValue));
 }
 
 void VarGameBackLogin(CFlashSimulator& sim, const char* szValue) {
@@ -382,7 +420,6 @@ int FocusedInputField(CFlashSimulator& sim) {
     if (RoleDataQueryEn()->IsInputFlagSet()) return 0;
     if (dialogs.m_dlgWeiXinLogin.IsWindowVisible()) return INPUT_WEIXIN_TOKEN;
     if (dialogs.m_dlgWardSafeToken.IsWindowVisible()) return INPUT_WARD_TOKEN;
-    // NOTE: the security-token dialog's own selection joins VAR_STARTTOVC once that dialog exists.
     return dialogs.m_dlgNewFlashLogin.GetFocusField();
 }
 
@@ -399,11 +436,12 @@ const char* GetLoginVariable(CFlashSimulator& sim, const char* szName) {
         nResult = dialogs.m_dlgWardSafeToken.IsWindowVisible() ? 1 : 0;
     else if (EqualsNoCase(szName, "VAR_FOCUS"))
         nResult = FocusedInputField(sim);
-    else if (EqualsNoCase(szName, "VAR_STARTTOVC"))
-        nResult = dialogs.m_dlgNewFlashLogin.GetSelectionEdge(false);
-    else if (EqualsNoCase(szName, "VAR_ENDTOVC"))
-        nResult = dialogs.m_dlgNewFlashLogin.GetSelectionEdge(true);
-    else
+    else if (EqualsNoCase(szName, "VAR_STARTTOVC") || EqualsNoCase(szName, "VAR_ENDTOVC")) {
+        const bool bEnd = EqualsNoCase(szName, "VAR_ENDTOVC");
+        nResult = dialogs.m_dlgWardSafeToken.IsWindowVisible()
+                      ? dialogs.m_dlgWardSafeToken.GetSelectionEdge(bEnd)
+                      : dialogs.m_dlgNewFlashLogin.GetSelectionEdge(bEnd);
+    } else
         return "";
     SafeItoA(nResult, s_szResult, sizeof s_szResult, 10);
     return s_szResult;
@@ -420,7 +458,7 @@ struct VariableTables {
             {"var_mainpath", &VarMainPath},
             {"var_quicklogin", &VarQuickLogin},
             {"var_focustoflash", &VarFocusToFlash},
-            {"var_weixin_ward_safe_token", &VarDialogPending},
+            {"var_weixin_ward_safe_token", &VarWeiXinWardSafeToken},
             {"var_play_login_ward_safe_token", &VarPlayLoginWardSafeToken},
             {"var_area_ach_tips", &VarAreaAchTips},
             {"var_cur_ver", &VarCurVer},
@@ -432,20 +470,20 @@ struct VariableTables {
             {"var_loginpass", &VarLoginPass},
             {"var_logprotect", &VarLogProtect},
             {"var_loginhelmsafe", &VarLoginHelmSafe},
-            {"var_loginhelmsafe_weixin", &VarSafeToken},
-            {"var_loginhelmsafe_ward", &VarLoginHelmSafe},
+            {"var_loginhelmsafe_weixin", &VarLoginHelmSafeWeiXin},
+            {"var_loginhelmsafe_ward", &VarLoginHelmSafeWard},
             {"var_starttoflash", &VarStartToFlash},
-            {"var_starttoflash_weixin", &VarDialogPending},
-            {"var_starttoflash_ward", &VarDialogPending},
+            {"var_starttoflash_weixin", &VarStartToFlashWeiXin},
+            {"var_starttoflash_ward", &VarStartToFlashWard},
             {"var_endtoflash", &VarEndToFlash},
-            {"var_endtoflash_weixin", &VarDialogPending},
-            {"var_endtoflash_ward", &VarDialogPending},
+            {"var_endtoflash_weixin", &VarEndToFlashWeiXin},
+            {"var_endtoflash_ward", &VarEndToFlashWard},
             {"var_game_backlogoin", &VarGameBackLogin},
             {"var_enable_token", &VarEnableToken},
             {"var_setkeydown", &VarSetKeyDown},
             {"var_qrcode_login", &VarQrCodeLogin},
-            {"var_login_ward_safe_token_error", &VarDialogPending},
-            {"var_play_login_ward_safe_token_error", &VarDialogPending},
+            {"var_login_ward_safe_token_error", &VarLoginWardSafeTokenError},
+            {"var_play_login_ward_safe_token_error", &VarPlayLoginWardSafeTokenError},
             {"var_weixin_login", &VarWeiXinLogin},
             {"var_showexit", &VarShowExit},
             {"var_version", &VarVersion},

@@ -69,6 +69,17 @@ TEST_F(DialogManagerTest, ShowingRunsOnInitDialogEachTimeAndReportsOnlyChanges) 
     EXPECT_THAT(m_dlg.TakeCalls(), IsEmpty());
 }
 
+TEST_F(DialogManagerTest, EnablingReportsOnlyChanges) {
+    Start();
+    EXPECT_FALSE(m_dlg.EnableWindow(TRUE));
+    EXPECT_THAT(m_dlg.TakeCalls(), IsEmpty()) << "already enabled";
+    m_dlg.EnableWindow(FALSE);
+    m_dlg.EnableWindow(FALSE);
+    EXPECT_THAT(m_dlg.TakeCalls(), ElementsAre("WindowProc 10 0 0"));
+    EXPECT_TRUE(m_dlg.EnableWindow(TRUE));
+    EXPECT_THAT(m_dlg.TakeCalls(), ElementsAre("WindowProc 10 1 0"));
+}
+
 TEST_F(DialogManagerTest, ManagerDrawsOnlyVisibleDialogsBottomFirst) {
     Start(LayoutWith("Dialog2001", "Background = Panel\n"));
     EXPECT_TRUE(Frame().empty()) << "registered dialogs start hidden";

@@ -63,6 +63,21 @@ TEST_F(EditTest, PressGivesTheFocusUntilAnotherEditTakesItOrTheDialogHides) {
     EXPECT_EQ(m_mgr->GetFocusEdit(), nullptr);
 }
 
+TEST_F(EditTest, HidingTheFocusedEditDropsTheFocusAtOnce) {
+    FocusEdit();
+    m_dlg.m_edit.ShowWindow(SW_HIDE);
+    EXPECT_FALSE(m_dlg.m_edit.IsFocus());
+    EXPECT_EQ(m_mgr->GetFocusEdit(), nullptr) << "not only when the next key comes";
+    m_dlg.m_edit.ShowWindow(SW_SHOW);
+    Type('a');
+    EXPECT_EQ(Text(), "") << "showing it again does not give the focus back";
+
+    Open(m_other);
+    ClickOn(m_other.m_edit);
+    m_dlg.m_edit.ShowWindow(SW_HIDE);
+    EXPECT_TRUE(m_other.m_edit.IsFocus()) << "hiding another edit leaves the focus where it is";
+}
+
 // ---- typing ----------------------------------------------------------------------------------------
 
 TEST_F(EditTest, TypedCharactersAreStoredAsUtf8) {
