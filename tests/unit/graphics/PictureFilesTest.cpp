@@ -1,0 +1,54 @@
+// Picture files the fuzzers found hard to decode, drawn through the graphics library.
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include "Graphics.h"
+#include "GraphicsFixture.h"
+#include "LogCapture.h"
+
+namespace gfxtest {
+namespace {
+constexpr DWORD kRed = 0xFFFF0000;
+constexpr DWORD kGreen = 0xFF00FF00;
+constexpr DWORD kBlue = 0xFF0000FF;
+
+class PictureFilesTest : public GraphicsTest {
+protected:
+    void SetUp() override {
+        GraphicsTest::SetUp();
+        UseRaster();
+    }
+    /// Copies a file of tests/data/pictures into the client directory under the same name.
+    void CopyPicture(const std::string& name) {
+        std::ifstream in(std::string(FLASHSIM_TEST_DATA) + "/pictures/" + name, std::ios::binary);
+        ASSERT_TRUE(in) << name;
+        m_dir.Write(name, std::string(std::istreambuf_iterator<char>(in), {}));
+    }
+};
+
+TEST_F(PictureFilesTest, EmptyPngDataChunksAddNothing) {
+    // A palette picture of three pixels whose data comes in pieces, with an empty chunk first and another
+    // between the pieces.
+    CopyPicture("empty_data_chunks.png");
+    CMyBitmap* bitmap = MyBitmapCreate("empty_data_chunks.png");
+    ASSERT_NE(bitmap, nullptr);
+    ASSERT_EQ(bitmap->GetWidth(), 3);
+    ASSERT_EQ(bitmap->GetHeight(), 1);
+    bitmap->Show(5, 5);
+    EXPECT_EQ(Pixel(5, 5), kRed);
+    EXPECT_EQ(Pixel(6, 5), kGreen);
+    EXPECT_EQ(Pixel(7, 5), kBlue);
+    bitmap->Release();
+
+    // An empty first data chunk followed by damage is refused, and reported, like any damaged picture.
+    CopyPicture("empty_data_chunk_then_damage.png");
+    bitmap = MyBitmapCreate("empty_data_chunk_then_damage.png");
+    ASSERT_NE(bitmap, nullptr);
+    EXPECT_EQ(bitmap->GetWidth(), 0);
+    bitmap->Release();
+    EXPECT_EQ(testlog::Count("MSG", "picture empty_data_chunk_then_damage.png cannot be decoded"), 1);
+}
+
+} // namespace
+} // namespace gfxtest
