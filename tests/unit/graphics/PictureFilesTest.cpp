@@ -1,4 +1,4 @@
-// Picture files the fuzzers found hard to decode, drawn through the graphics library.
+// Picture files that were hard to decode, drawn through the graphics library.
 #include <fstream>
 #include <iterator>
 #include <string>
@@ -48,6 +48,41 @@ TEST_F(PictureFilesTest, EmptyPngDataChunksAddNothing) {
     EXPECT_EQ(bitmap->GetWidth(), 0);
     bitmap->Release();
     EXPECT_EQ(testlog::Count("MSG", "picture empty_data_chunk_then_damage.png cannot be decoded"), 1);
+}
+
+TEST_F(PictureFilesTest, TopDownBmpDrawsItsFirstRowAtTheTop) {
+    // 4 x 2, 8-bit palette, rows stored top first (a negative height): black red green blue, then reversed.
+    CopyPicture("top_down_palette.bmp");
+    CMyBitmap* bitmap = MyBitmapCreate("top_down_palette.bmp");
+    ASSERT_NE(bitmap, nullptr);
+    ASSERT_EQ(bitmap->GetWidth(), 4);
+    ASSERT_EQ(bitmap->GetHeight(), 2);
+    bitmap->Show(5, 5);
+    EXPECT_EQ(Pixel(6, 5), kRed);
+    EXPECT_EQ(Pixel(8, 5), kBlue);
+    EXPECT_EQ(Pixel(5, 6), kBlue);
+    EXPECT_EQ(Pixel(7, 6), kRed);
+    bitmap->Release();
+}
+
+TEST_F(PictureFilesTest, JpegHuffmanTableOfMoreThan256CodesIsRefusedUnread) {
+    CopyPicture("small.jpg");
+    CMyBitmap* bitmap = MyBitmapCreate("small.jpg");
+    ASSERT_NE(bitmap, nullptr);
+    EXPECT_EQ(bitmap->GetWidth(), 4) << "tables within their bounds decode";
+    EXPECT_EQ(bitmap->GetHeight(), 3);
+    bitmap->Release();
+
+    // Its first table's code counts add up to 433: the decoder would write past its tables.
+    CopyPicture("huffman_table_too_long.jpg");
+    bitmap = MyBitmapCreate("huffman_table_too_long.jpg");
+    ASSERT_NE(bitmap, nullptr);
+    EXPECT_EQ(bitmap->GetWidth(), 0);
+    bitmap->Release();
+    EXPECT_EQ(testlog::Count("MSG",
+                             "picture huffman_table_too_long.jpg cannot be decoded: damaged: Huffman table "
+                             "with more than 256 codes"),
+              1);
 }
 
 } // namespace
