@@ -1,4 +1,5 @@
-// Picture decoding through stb_image, kept private to this file (static functions, no exported symbols).
+// Picture decoding: JPEG through libjpeg-turbo, BMP and PNG through stb_image, kept private to this file
+// (static functions, no exported symbols).
 #include "ImageDecoder.h"
 
 #include <climits>
@@ -8,6 +9,7 @@
 #include <fstream>
 #include <system_error>
 
+#include "JpegDecoder.h"
 #include "Log.h"
 #include "PictureGuard.h"
 #include "text/ClientPath.h"
@@ -15,7 +17,6 @@
 #define STB_IMAGE_STATIC
 #define STB_IMAGE_IMPLEMENTATION
 #define STBI_ONLY_BMP
-#define STBI_ONLY_JPEG
 #define STBI_ONLY_PNG
 #define STBI_NO_STDIO
 #include <stb/stb_image.h>
@@ -37,6 +38,11 @@ std::optional<Image> ImageDecoder::Decode(const std::vector<std::uint8_t>& origi
     if (bytes.empty()) return Refuse(error, "empty file");
     if (const auto fault = PictureGuard::UnsafeForDecoder(bytes)) return Refuse(error, "damaged: " + *fault);
     if (bytes.size() > static_cast<std::size_t>(INT_MAX)) return Refuse(error, "file too large");
+    if (JpegDecoder::IsJpeg(bytes)) {
+        std::string what;
+        auto image = JpegDecoder::Decode(bytes, MAX_SIDE, what);
+        return image ? image : Refuse(error, std::move(what));
+    }
     const auto* data = reinterpret_cast<const stbi_uc*>(bytes.data());
     const int length = static_cast<int>(bytes.size());
     int width = 0, height = 0, channels = 0;

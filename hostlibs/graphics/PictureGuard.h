@@ -13,8 +13,8 @@ public:
     /// A PNG picture without its empty data chunks, when it has any (they add nothing to the picture).
     static std::optional<std::vector<std::uint8_t>>
     WithoutEmptyPngData(const std::vector<std::uint8_t>& bytes);
-    /// What is wrong with a picture that stb would read past its own tables; nothing when the bytes are safe
-    /// to hand over.
+    /// What is wrong with a picture that stb would answer with an allocation out of all proportion to the
+    /// file; nothing when the bytes are safe to hand over.
     static std::optional<std::string> UnsafeForDecoder(const std::vector<std::uint8_t>& bytes);
 };
 

@@ -27,7 +27,7 @@ protected:
     }
 };
 
-TEST_F(PictureFilesTest, EmptyPngDataChunksAddNothing) {
+TEST_F(PictureFilesTest, PngDataChunksThatAreEmptyAddNothingAndOverlongOnesAreRefused) {
     // A palette picture of three pixels whose data comes in pieces, with an empty chunk first and another
     // between the pieces.
     CopyPicture("empty_data_chunks.png");
@@ -48,6 +48,17 @@ TEST_F(PictureFilesTest, EmptyPngDataChunksAddNothing) {
     EXPECT_EQ(bitmap->GetWidth(), 0);
     bitmap->Release();
     EXPECT_EQ(testlog::Count("MSG", "picture empty_data_chunk_then_damage.png cannot be decoded"), 1);
+
+    // A data chunk claiming 1.5 GB in a file of 80 bytes is refused before anything is allocated for it.
+    CopyPicture("data_chunk_longer_than_file.png");
+    bitmap = MyBitmapCreate("data_chunk_longer_than_file.png");
+    ASSERT_NE(bitmap, nullptr);
+    EXPECT_EQ(bitmap->GetWidth(), 0);
+    bitmap->Release();
+    EXPECT_EQ(testlog::Count("MSG",
+                             "picture data_chunk_longer_than_file.png cannot be decoded: damaged: data "
+                             "chunk longer than the file"),
+              1);
 }
 
 TEST_F(PictureFilesTest, TopDownBmpDrawsItsFirstRowAtTheTop) {
@@ -65,24 +76,40 @@ TEST_F(PictureFilesTest, TopDownBmpDrawsItsFirstRowAtTheTop) {
     bitmap->Release();
 }
 
-TEST_F(PictureFilesTest, JpegHuffmanTableOfMoreThan256CodesIsRefusedUnread) {
+TEST_F(PictureFilesTest, JpegPicturesDecodeAndDamagedOnesAreRefused) {
     CopyPicture("small.jpg");
     CMyBitmap* bitmap = MyBitmapCreate("small.jpg");
     ASSERT_NE(bitmap, nullptr);
-    EXPECT_EQ(bitmap->GetWidth(), 4) << "tables within their bounds decode";
+    EXPECT_EQ(bitmap->GetWidth(), 4);
     EXPECT_EQ(bitmap->GetHeight(), 3);
     bitmap->Release();
 
-    // Its first table's code counts add up to 433: the decoder would write past its tables.
-    CopyPicture("huffman_table_too_long.jpg");
-    bitmap = MyBitmapCreate("huffman_table_too_long.jpg");
+    // 8 x 2 grey levels rising from black to near white: grey stays grey.
+    CopyPicture("grey.jpg");
+    bitmap = MyBitmapCreate("grey.jpg");
     ASSERT_NE(bitmap, nullptr);
-    EXPECT_EQ(bitmap->GetWidth(), 0);
+    ASSERT_EQ(bitmap->GetWidth(), 8);
+    bitmap->Show(0, 0);
+    const DWORD light = Pixel(7, 1);
+    EXPECT_EQ(light >> 24, 0xFFu);
+    EXPECT_EQ(light & 0xFF, (light >> 8) & 0xFF);
+    EXPECT_EQ(light & 0xFF, (light >> 16) & 0xFF);
+    EXPECT_GT(light & 0xFF, Pixel(0, 0) & 0xFF);
     bitmap->Release();
-    EXPECT_EQ(testlog::Count("MSG",
-                             "picture huffman_table_too_long.jpg cannot be decoded: damaged: Huffman table "
-                             "with more than 256 codes"),
-              1);
+
+    // A Huffman table of 433 codes (the decoder once wrote past its 256), one that made it shift its bit
+    // buffer past 32 bits, and 16000 x 16000 pixels claimed by a 638-byte file.
+    const char* damaged[] = {"huffman_table_too_long.jpg", "entropy_data_past_its_bits.jpg",
+                             "claims_16000_square.jpg"};
+    for (const char* name : damaged) {
+        CopyPicture(name);
+        bitmap = MyBitmapCreate(name);
+        ASSERT_NE(bitmap, nullptr);
+        EXPECT_EQ(bitmap->GetWidth(), 0) << name;
+        bitmap->Release();
+        EXPECT_EQ(testlog::Count("MSG", std::string("picture ") + name + " cannot be decoded: damaged: "), 1)
+            << name;
+    }
 }
 
 } // namespace
