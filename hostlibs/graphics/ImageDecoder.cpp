@@ -52,6 +52,9 @@ std::optional<Image> ImageDecoder::Decode(const std::vector<std::uint8_t>& origi
     if (height < 0 && height != INT_MIN) height = -height;
     if (width <= 0 || height <= 0 || width > MAX_SIDE || height > MAX_SIDE)
         return Refuse(error, "size " + std::to_string(width) + "x" + std::to_string(height) + " refused");
+    if (PictureGuard::BmpLargerThanItsData(bytes, width, height))
+        return Refuse(error, "damaged: size " + std::to_string(width) + "x" + std::to_string(height) +
+                                 " larger than its data");
     stbi_uc* pixels = stbi_load_from_memory(data, length, &width, &height, &channels, RGBA_CHANNELS);
     if (!pixels) return Refuse(error, std::string("damaged: ") + stbi_failure_reason());
     Image image;

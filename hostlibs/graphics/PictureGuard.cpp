@@ -12,6 +12,9 @@ constexpr std::size_t PNG_TYPE_BYTES = 4;
 constexpr std::size_t PNG_CRC_BYTES = 4;
 constexpr std::size_t PNG_CHUNK_FRAME = PNG_LENGTH_BYTES + PNG_TYPE_BYTES + PNG_CRC_BYTES;
 constexpr char PNG_DATA_TYPE[] = "IDAT";
+constexpr char BMP_SIGNATURE[] = "BM";
+constexpr std::size_t BMP_SIGNATURE_BYTES = 2;
+constexpr std::size_t BMP_DENSEST_PIXELS_PER_BYTE = 8;
 
 std::uint32_t ReadBigEndian32(const std::uint8_t* p) {
     return (std::uint32_t{p[0]} << 24) | (std::uint32_t{p[1]} << 16) | (std::uint32_t{p[2]} << 8) | p[3];
@@ -27,12 +30,12 @@ bool IsDataChunk(const std::uint8_t* type) {
 }
 
 // Calls fn(pos, length, type) for each chunk of a PNG picture that lies whole within the bytes, in order;
-// returns the position of the first that does not, or the size when all do.
+// returns the position of the first whose length and type are there but not the rest, or the size.
 template <class Fn> std::size_t ForEachPngChunk(const std::vector<std::uint8_t>& bytes, Fn fn) {
     std::size_t pos = sizeof PNG_SIGNATURE;
-    while (bytes.size() - pos >= PNG_CHUNK_FRAME) {
+    while (bytes.size() - pos >= PNG_LENGTH_BYTES + PNG_TYPE_BYTES) {
         const std::uint32_t length = ReadBigEndian32(&bytes[pos]);
-        if (length > bytes.size() - pos - PNG_CHUNK_FRAME) return pos;
+        if (bytes.size() - pos < PNG_CHUNK_FRAME || length > bytes.size() - pos - PNG_CHUNK_FRAME) return pos;
         fn(pos, length, &bytes[pos + PNG_LENGTH_BYTES]);
         pos += PNG_CHUNK_FRAME + length;
     }
@@ -68,6 +71,15 @@ std::optional<std::string> PictureGuard::UnsafeForDecoder(const std::vector<std:
         IsDataChunk(&bytes[overrun + PNG_LENGTH_BYTES]))
         return "data chunk longer than the file";
     return std::nullopt;
+}
+
+bool PictureGuard::BmpLargerThanItsData(const std::vector<std::uint8_t>& bytes, int width, int height) {
+    if (bytes.size() < BMP_SIGNATURE_BYTES ||
+        std::memcmp(bytes.data(), BMP_SIGNATURE, BMP_SIGNATURE_BYTES) != 0)
+        return false;
+    if (width <= 0 || height <= 0) return false;
+    const std::size_t pixels = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
+    return pixels / BMP_DENSEST_PIXELS_PER_BYTE > bytes.size();
 }
 
 } // namespace gfx

@@ -49,19 +49,21 @@ TEST_F(PictureFilesTest, PngDataChunksThatAreEmptyAddNothingAndOverlongOnesAreRe
     bitmap->Release();
     EXPECT_EQ(testlog::Count("MSG", "picture empty_data_chunk_then_damage.png cannot be decoded"), 1);
 
-    // A data chunk claiming 1.5 GB in a file of 80 bytes is refused before anything is allocated for it.
-    CopyPicture("data_chunk_longer_than_file.png");
-    bitmap = MyBitmapCreate("data_chunk_longer_than_file.png");
-    ASSERT_NE(bitmap, nullptr);
-    EXPECT_EQ(bitmap->GetWidth(), 0);
-    bitmap->Release();
-    EXPECT_EQ(testlog::Count("MSG",
-                             "picture data_chunk_longer_than_file.png cannot be decoded: damaged: data "
-                             "chunk longer than the file"),
-              1);
+    // A data chunk claiming 1.5 GB in a file of 80 bytes, and one whose length and type end the file, are
+    // refused before anything is allocated for them.
+    for (const char* name : {"data_chunk_longer_than_file.png", "data_chunk_header_at_the_end.png"}) {
+        CopyPicture(name);
+        bitmap = MyBitmapCreate(name);
+        ASSERT_NE(bitmap, nullptr);
+        EXPECT_EQ(bitmap->GetWidth(), 0) << name;
+        bitmap->Release();
+        EXPECT_EQ(testlog::Count("MSG", std::string("picture ") + name +
+                                            " cannot be decoded: damaged: data chunk longer than the file"),
+                  1);
+    }
 }
 
-TEST_F(PictureFilesTest, TopDownBmpDrawsItsFirstRowAtTheTop) {
+TEST_F(PictureFilesTest, BmpPicturesTopDownShortAndClaimingTooMuch) {
     // 4 x 2, 8-bit palette, rows stored top first (a negative height): black red green blue, then reversed.
     CopyPicture("top_down_palette.bmp");
     CMyBitmap* bitmap = MyBitmapCreate("top_down_palette.bmp");
@@ -74,6 +76,23 @@ TEST_F(PictureFilesTest, TopDownBmpDrawsItsFirstRowAtTheTop) {
     EXPECT_EQ(Pixel(5, 6), kBlue);
     EXPECT_EQ(Pixel(7, 6), kRed);
     bitmap->Release();
+
+    // A file that ends a row early decodes with the rest black, as it always did; a 78-byte file claiming
+    // 4000 x 3000 pixels (more than even one bit a pixel could hold) is refused.
+    CopyPicture("last_row_missing.bmp");
+    bitmap = MyBitmapCreate("last_row_missing.bmp");
+    ASSERT_NE(bitmap, nullptr);
+    EXPECT_EQ(bitmap->GetWidth(), 3);
+    bitmap->Release();
+    CopyPicture("claims_4000x3000_without_pixels.bmp");
+    bitmap = MyBitmapCreate("claims_4000x3000_without_pixels.bmp");
+    ASSERT_NE(bitmap, nullptr);
+    EXPECT_EQ(bitmap->GetWidth(), 0);
+    bitmap->Release();
+    EXPECT_EQ(testlog::Count("MSG",
+                             "picture claims_4000x3000_without_pixels.bmp cannot be decoded: damaged: size "
+                             "4000x3000 larger than its data"),
+              1);
 }
 
 TEST_F(PictureFilesTest, JpegPicturesDecodeAndDamagedOnesAreRefused) {
