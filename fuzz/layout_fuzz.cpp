@@ -1,10 +1,11 @@
 // Fuzzes the layout-file reader: any file content, then a dialog with every kind of control bound from it.
 #include <cstddef>
 #include <cstdint>
-#include <string>
+#include <string_view>
 
 #include "TempClientDir.h"
 #include "hostlibs/HostCanvas.h"
+#include "lugui/GuiMgr.h"
 #include "platform/LuButton.h"
 #include "platform/LuCheck.h"
 #include "platform/LuDialog.h"
@@ -39,11 +40,10 @@ public:
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static TempClientDir dir;
-    dir.Write("FlashGui.ini", std::string(reinterpret_cast<const char*>(data), size));
+    static TempClientDir dir; // empty: the art the layout names is missing, as in a damaged client
     FuzzDialog dialog;
-    LuGui::ILuGuiMgr* pMgr = LuGui::CreateNewGuiMgr();
-    pMgr->Init(nullptr, 0, 0, "FlashGui.ini");
+    auto* pMgr = new LuGui::CGuiMgr();
+    pMgr->InitFromText(0, std::string_view(reinterpret_cast<const char*>(data), size), "FlashGui.ini");
     pMgr->RegisterDialog(&dialog, 0, 0);
     dialog.ShowWindow(SW_SHOW);
     dialog.m_list.AddString("row");

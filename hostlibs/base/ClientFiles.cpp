@@ -24,13 +24,16 @@ bool IsWriteMode(const char* szMode) {
 // fgets with the text mode's translation: a "\r" directly before "\n" reads as that "\n", any other "\r"
 // stays. NOTE: fgets stops at the first "\n", so a translated pair can only end the piece read, or be split
 // by the buffer's end; the line then holds what the translated stream would have put into the same buffer.
+// A piece with a NUL byte looks shorter than it is, so the "\r" before it is no split pair: the next byte is
+// only looked at when the piece filled the buffer.
 char* TextModeGets(char* szBuf, int nSize, std::FILE* fp) {
     if (!std::fgets(szBuf, nSize, fp)) return nullptr;
     const std::size_t n = std::strlen(szBuf);
+    const bool bFilled = n + 1 == static_cast<std::size_t>(nSize);
     if (n >= 2 && szBuf[n - 2] == '\r' && szBuf[n - 1] == '\n') {
         szBuf[n - 2] = '\n';
         szBuf[n - 1] = '\0';
-    } else if (n >= 1 && szBuf[n - 1] == '\r') {
+    } else if (bFilled && n >= 1 && szBuf[n - 1] == '\r') {
         const int next = std::getc(fp);
         if (next == '\n')
             szBuf[n - 1] = '\n';

@@ -2,18 +2,17 @@
 // until it changes.
 #include <sys/stat.h>
 
-#include <cstring>
 #include <map>
 #include <mutex>
 #include <string>
 
 #include "BaseLib.h"
 #include "text/ClientPath.h"
-#include "text/IniDocument.h"
+#include "text/ProfileText.h"
 
 namespace {
 struct IniFile {
-    txt::IniDocument doc;
+    txt::ProfileText profile;
     std::string fingerprint; // the client directory, size and time of the file when it was read
 };
 
@@ -25,40 +24,38 @@ std::string Fingerprint(const char* szFile) {
            std::to_string(st.st_mtim.tv_nsec);
 }
 
-// Finds the value, re-reading the file when it changed; false when there is none.
-bool Lookup(const char* szSection, const char* szKey, const char* szFile, std::string& value) {
+// Calls read(profile) with the file's text as read last, re-reading the file when it changed.
+template <class Read> auto WithProfile(const char* szFile, Read read) {
     static std::mutex mutex;
     static std::map<std::string, IniFile> cache;
-    if (!szSection || !szKey || !szFile) return false;
     std::lock_guard lock(mutex);
     const std::string fingerprint = Fingerprint(szFile);
     IniFile& ini = cache[szFile];
     if (ini.fingerprint != fingerprint) {
-        ini.doc = txt::IniDocument::Load(szFile, txt::PROFILE_RULES).value_or(txt::IniDocument{});
+        const auto text = txt::IniDocument::ReadClientFile(szFile);
+        ini.profile = txt::ProfileText::Parse(text ? *text : std::string());
         ini.fingerprint = fingerprint;
     }
-    const std::string* found = ini.doc.Value(szSection, szKey);
-    if (!found) return false;
-    value = *found;
-    return true;
+    return read(ini.profile);
 }
 } // namespace
 
 DWORD MyGetPrivateProfileString(const char* szSection, const char* szKey, const char* szDefault, char* szBuf,
                                 DWORD nSize, const char* szFile) {
     if (!szBuf || nSize == 0) return 0;
-    std::string value;
-    if (!Lookup(szSection, szKey, szFile, value)) value = szDefault ? szDefault : "";
-    const std::size_t n = value.size() < nSize ? value.size() : nSize - 1;
-    std::memcpy(szBuf, value.data(), n);
-    szBuf[n] = '\0';
-    return static_cast<DWORD>(n);
+    if (!szFile)
+        return static_cast<DWORD>(txt::ProfileText{}.CopyString(nullptr, nullptr, szDefault, szBuf, nSize));
+    return static_cast<DWORD>(WithProfile(szFile, [&](const txt::ProfileText& profile) {
+        return profile.CopyString(szSection, szKey, szDefault, szBuf, nSize);
+    }));
 }
 
 int MyGetPrivateProfileInt(const char* szSection, const char* szKey, int nDefault, const char* szFile) {
-    std::string value;
-    if (!Lookup(szSection, szKey, szFile, value)) return nDefault;
-    return SafeAtoi(value.c_str());
+    if (!szFile) return nDefault;
+    return WithProfile(szFile, [&](const txt::ProfileText& profile) {
+        const std::string* value = profile.Value(szSection, szKey);
+        return value ? SafeAtoi(value->c_str()) : nDefault;
+    });
 }
 
 const char* const g_pszIniServerState = "ini/ServerState.ini";

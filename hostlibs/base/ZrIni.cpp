@@ -19,6 +19,10 @@ bool CZrIni::Open(const char* szFile) {
     return true;
 }
 
+void CZrIni::OpenText(std::string_view text) {
+    m_pData = std::make_unique<SData>(SData{txt::IniDocument::Parse(text, txt::PROFILE_RULES)});
+}
+
 bool CZrIni::IsOpen() const {
     return m_pData != nullptr;
 }

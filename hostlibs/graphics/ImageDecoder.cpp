@@ -1,4 +1,5 @@
-// Picture decoding through stb_image, kept private to this file (static functions, no exported symbols).
+// Picture decoding: JPEG through libjpeg-turbo, BMP and PNG through stb_image, kept private to this file
+// (static functions, no exported symbols).
 #include "ImageDecoder.h"
 
 #include <climits>
@@ -8,13 +9,14 @@
 #include <fstream>
 #include <system_error>
 
+#include "JpegDecoder.h"
 #include "Log.h"
+#include "PictureGuard.h"
 #include "text/ClientPath.h"
 
 #define STB_IMAGE_STATIC
 #define STB_IMAGE_IMPLEMENTATION
 #define STBI_ONLY_BMP
-#define STBI_ONLY_JPEG
 #define STBI_ONLY_PNG
 #define STBI_NO_STDIO
 #include <stb/stb_image.h>
@@ -27,20 +29,32 @@ std::optional<Image> Refuse(std::string* error, std::string what) {
     if (error) *error = std::move(what);
     return std::nullopt;
 }
+
 } // namespace
 
-std::optional<Image> ImageDecoder::Decode(const std::vector<std::uint8_t>& bytes, std::string* error) {
+std::optional<Image> ImageDecoder::Decode(const std::vector<std::uint8_t>& original, std::string* error) {
+    const auto cleaned = PictureGuard::WithoutEmptyPngData(original);
+    const std::vector<std::uint8_t>& bytes = cleaned ? *cleaned : original;
     if (bytes.empty()) return Refuse(error, "empty file");
+    if (const auto fault = PictureGuard::UnsafeForDecoder(bytes)) return Refuse(error, "damaged: " + *fault);
     if (bytes.size() > static_cast<std::size_t>(INT_MAX)) return Refuse(error, "file too large");
+    if (JpegDecoder::IsJpeg(bytes)) {
+        std::string what;
+        auto image = JpegDecoder::Decode(bytes, MAX_SIDE, what);
+        return image ? image : Refuse(error, std::move(what));
+    }
     const auto* data = reinterpret_cast<const stbi_uc*>(bytes.data());
     const int length = static_cast<int>(bytes.size());
     int width = 0, height = 0, channels = 0;
     if (!stbi_info_from_memory(data, length, &width, &height, &channels))
         return Refuse(error, "not a BMP, JPEG or PNG picture");
-    // NOTE: stb reports a top-down bitmap's height as stored, negative; the picture itself loads upright.
+    // NOTE: stb gives a top-down BMP's height as the file has it, negative; decoding makes it positive.
     if (height < 0 && height != INT_MIN) height = -height;
     if (width <= 0 || height <= 0 || width > MAX_SIDE || height > MAX_SIDE)
         return Refuse(error, "size " + std::to_string(width) + "x" + std::to_string(height) + " refused");
+    if (PictureGuard::BmpLargerThanItsData(bytes, width, height))
+        return Refuse(error, "damaged: size " + std::to_string(width) + "x" + std::to_string(height) +
+                                 " larger than its data");
     stbi_uc* pixels = stbi_load_from_memory(data, length, &width, &height, &channels, RGBA_CHANNELS);
     if (!pixels) return Refuse(error, std::string("damaged: ") + stbi_failure_reason());
     Image image;

@@ -40,8 +40,7 @@ CGuiMgr* CGuiMgr::Current() {
 
 bool CGuiMgr::Init(HINSTANCE, std::uint64_t hHost, std::uint32_t, const char* szLayoutFile) {
     const std::string file = szLayoutFile && *szLayoutFile ? szLayoutFile : DEFAULT_LAYOUT_FILE;
-    host::Journal("gui.init", {{"file", file}});
-    m_hHostWnd = reinterpret_cast<HWND>(static_cast<std::uintptr_t>(hHost));
+    BeginInit(hHost, file);
     if (m_layout.Load(file.c_str())) return true;
     if (file != DEFAULT_LAYOUT_FILE) {
         LogMsg("layout %s missing, reading %s", file.c_str(), DEFAULT_LAYOUT_FILE);
@@ -49,6 +48,17 @@ bool CGuiMgr::Init(HINSTANCE, std::uint64_t hHost, std::uint32_t, const char* sz
     }
     LogMsg("layout %s missing", DEFAULT_LAYOUT_FILE);
     return false;
+}
+
+void CGuiMgr::InitFromText(std::uint64_t hHost, std::string_view text, const char* szName) {
+    const std::string name = szName ? szName : "";
+    BeginInit(hHost, name);
+    m_layout.Parse(text, name.c_str());
+}
+
+void CGuiMgr::BeginInit(std::uint64_t hHost, const std::string& strFile) {
+    host::Journal("gui.init", {{"file", strFile}});
+    m_hHostWnd = reinterpret_cast<HWND>(static_cast<std::uintptr_t>(hHost));
 }
 
 void CGuiMgr::Release() {

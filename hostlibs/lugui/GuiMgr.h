@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "LayoutFile.h"
@@ -17,6 +18,9 @@ public:
     bool Init(HINSTANCE hInstance, std::uint64_t hHost, std::uint32_t nHostValue,
               const char* szLayoutFile) override;
     void Release() override;
+    /// Init with the text of a layout file instead of the file (for a caller that holds it); szName names it
+    /// in messages.
+    void InitFromText(std::uint64_t hHost, std::string_view text, const char* szName);
     void SetSoundCallBack(PFN_SoundCallBack pfn) override;
     bool RegisterDialog(CLuDialog* pDialog, int nReserved1, int nReserved2) override;
     void Process() override;
@@ -60,6 +64,8 @@ private:
         DWORD dwShownAt;
     };
 
+    /// What every Init does before reading the layout: the journal line and the host's window.
+    void BeginInit(std::uint64_t hHost, const std::string& strFile);
     /// The top-most visible, enabled dialog under a screen point (a dialog counts where it or one of its
     /// controls lies).
     CLuDialog* DialogAt(POINT pt) const;

@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "BaseLib.h"
@@ -20,6 +21,8 @@ public:
     /// key counts, blanks around keys and values are dropped. False when the file cannot be read; the reader
     /// is empty then.
     bool Open(const char* szFile);
+    /// Reads the text of such a file held in memory, with the same rules.
+    void OpenText(std::string_view text);
     bool IsOpen() const;
     bool HasSection(const char* szSection) const;
     /// The value of a key, szDefault when the section or the key is missing. Valid until the next Open.

@@ -44,10 +44,7 @@ std::int64_t MakeRangedKey(std::int32_t first, std::int32_t second) {
 
 void CFlashStringMgr::Load() {
     LoadServerCfg();
-    m_bLoading = true;
-    Clear();
-    m_nSameIdCount = 0;
-    m_mapStrings.reserve(LINES_RESERVED);
+    BeginStrings();
     ZrFile* file = Safefopen(STRING_FILE, "r");
     if (!file) {
         // Lookups keep answering "FlashStrIniting<id>" until a later reload finds the file.
@@ -61,6 +58,24 @@ void CFlashStringMgr::Load() {
         AddLine(line);
     }
     Safefclose(file);
+    EndStrings();
+}
+
+void CFlashStringMgr::LoadFromTexts(std::string_view strStringTable, std::string_view strServerCfg) {
+    LoadServerCfgFromText(strServerCfg);
+    BeginStrings();
+    while (const auto line = textscan::NextBufferedLine(strStringTable, LINE_BUFFER_SIZE)) AddLine(*line);
+    EndStrings();
+}
+
+void CFlashStringMgr::BeginStrings() {
+    m_bLoading = true;
+    Clear();
+    m_nSameIdCount = 0;
+    m_mapStrings.reserve(LINES_RESERVED);
+}
+
+void CFlashStringMgr::EndStrings() {
     if (m_nSameIdCount > MAX_WARNINGS_OF_A_KIND)
         SysLogWarn(__FILE__, __LINE__,
                    "strres have same id, only the first " + std::to_string(MAX_WARNINGS_OF_A_KIND) +
@@ -236,6 +251,16 @@ void CFlashStringMgr::LoadServerCfg() {
                    SERVER_CFG_FILE);
         return;
     }
+    LoadServerCfg(ini);
+}
+
+void CFlashStringMgr::LoadServerCfgFromText(std::string_view strText) {
+    CZrIni ini;
+    ini.OpenText(strText);
+    LoadServerCfg(ini);
+}
+
+void CFlashStringMgr::LoadServerCfg(const CZrIni& ini) {
     for (const SCfgCategory& category : CFG_CATEGORIES)
         LoadCfgCategory(ini, category.szHeader, category.szGroupPrefix, category.nModel);
 }

@@ -29,9 +29,14 @@ public:
     /// Loads the server configuration (adding only), then the string table (the earlier entries are cleared
     /// first).
     void Load();
+    /// Load from the texts of the two files instead of the files (for a caller that holds them): the same
+    /// reading, line for line, without the messages of files that cannot be opened.
+    void LoadFromTexts(std::string_view strStringTable, std::string_view strServerCfg);
     /// Loads the six categories of the server configuration; groups and servers already loaded stay
     /// unchanged.
     void LoadServerCfg();
+    /// LoadServerCfg from the text of the file.
+    void LoadServerCfgFromText(std::string_view strText);
     /// Empties the strings and the ranged strings (not the server configuration).
     void Clear();
 
@@ -61,7 +66,12 @@ public:
     }
 
 private:
+    /// Sets the loading flag and empties the table for the lines to come.
+    void BeginStrings();
     void AddLine(std::string_view line);
+    /// Sums up the repeated ids and clears the loading flag.
+    void EndStrings();
+    void LoadServerCfg(const CZrIni& ini);
     void AddRanged(std::string_view value);
     void LoadCfgCategory(const CZrIni& ini, const char* szHeader, const char* szGroupPrefix,
                          std::int32_t nModel);

@@ -47,4 +47,21 @@ std::vector<std::int32_t> ReadIntsSeparated(std::string_view text, char cSep, st
     return values;
 }
 
+std::optional<std::string_view> NextBufferedLine(std::string_view& text, std::size_t nBufferSize) {
+    if (text.empty() || nBufferSize < 2) return std::nullopt;
+    const std::size_t nRoom = nBufferSize - 1;
+    // A "\r\n" pair is one byte of the buffer, so a line feed one byte past the room may still fit.
+    const std::size_t nFeed = text.substr(0, nRoom + 1).find('\n');
+    const bool bPair = nFeed != std::string_view::npos && nFeed > 0 && text[nFeed - 1] == '\r';
+    std::string_view line;
+    if (nFeed != std::string_view::npos && nFeed + (bPair ? 0 : 1) <= nRoom) {
+        line = text.substr(0, bPair ? nFeed - 1 : nFeed);
+        text.remove_prefix(nFeed + 1);
+    } else {
+        line = text.substr(0, nRoom);
+        text.remove_prefix(line.size());
+    }
+    return line.substr(0, line.find('\0'));
+}
+
 } // namespace textscan

@@ -121,6 +121,37 @@ TEST(FlashStringMgr, LongLinesAreCutAtTheBufferAndNeverOverflow) {
     EXPECT_STREQ(mgr.GetStr(10), "after");
 }
 
+TEST(FlashStringMgr, TextsInMemoryReadLineForLineLikeTheFile) {
+    using namespace std::string_literals;
+    const std::string vs(1020, 'v');
+    const std::string texts[] = {
+        "12=a=b\n0=x\n;5=x\n//5=x\n\n13=\n14=crlf\r\n15=cr\rinside\n16=no final line feed"s,
+        "9=" + vs + "\r\n10=pair ends a full buffer\n",
+        "9=" + vs + "v\r\n10=pair one byte past the buffer\n",
+        "9=" + vs.substr(1) + "\r\r\n10=carriage return kept before the pair\n",
+        "9=" + vs + "\r" + std::string(2000, 'w') + "\n10=carriage return at the buffer's end\n",
+        "9=" + std::string(5000, 'v') + "\r\n10=long line\r\n",
+        "5=ab\r\0x\n\n6=c\n7=a\0b\n\0 8=x\n9=d\r"s,
+        "\r\n\r\n\r"s,
+        "50000001=[1-2]|ranged\r\n50000002=[3-4]|cut\0|x\n"s,
+    };
+    for (const std::string& text : texts) {
+        TempClientDir dir;
+        CFlashStringMgr fromFile, fromText;
+        LoadTable(fromFile, dir, text);
+        fromText.LoadFromTexts(text, "");
+        EXPECT_FALSE(fromText.IsLoading());
+        ASSERT_EQ(fromText.GetStringCount(), fromFile.GetStringCount()) << text.substr(0, 40);
+        for (std::uint32_t id : {5u, 6u, 7u, 8u, 9u, 10u, 12u, 13u, 14u, 15u, 16u, 50000001u, 50000002u})
+            EXPECT_STREQ(fromText.GetStr(id), fromFile.GetStr(id)) << id << " of " << text.substr(0, 40);
+        ASSERT_EQ(fromText.GetRangedCount(), fromFile.GetRangedCount());
+        for (std::size_t i = 0; i < fromFile.GetRangedCount(); ++i) {
+            EXPECT_EQ(fromText.GetRanged(i).first, fromFile.GetRanged(i).first);
+            EXPECT_STREQ(fromText.GetRanged(i).second, fromFile.GetRanged(i).second);
+        }
+    }
+}
+
 TEST(FlashStringMgr, ClearKeepsNothingAndEmptyFileLoadsNothing) {
     TempClientDir dir;
     CFlashStringMgr mgr;
@@ -139,36 +170,42 @@ TEST(ServerConfiguration, DamagedFileWithHugeCountsLoadsOnlyWhatItHolds) {
     TempClientDir dir;
     std::ifstream in(std::string(FLASHSIM_TEST_DATA) + "/servercfg/damaged_ServerCfg.ini", std::ios::binary);
     ASSERT_TRUE(in);
-    dir.Write("ini/ServerCfg.ini", std::string(std::istreambuf_iterator<char>(in), {}));
-    CFlashStringMgr mgr;
-    LoadTable(mgr, dir, "1=x\n");
+    const std::string cfg(std::istreambuf_iterator<char>(in), {});
+    dir.Write("ini/ServerCfg.ini", cfg);
+    CFlashStringMgr fromFile, fromText;
+    LoadTable(fromFile, dir, "1=x\n");
+    fromText.LoadFromTexts("1=x\n", cfg);
 
-    const CfgGroupMap* groups = mgr.GetCfgGroups(2);
-    ASSERT_NE(groups, nullptr);
-    EXPECT_EQ(groups->size(), 1024u) << "groups past the bound are not read";
-    EXPECT_EQ(groups->count(1098), 0u);
-    EXPECT_EQ(mgr.GetCfgGroups(4), nullptr) << "a negative group count configures nothing";
+    for (const CFlashStringMgr* loaded : {&fromFile, &fromText}) {
+        SCOPED_TRACE(loaded == &fromFile ? "file" : "text");
+        const CFlashStringMgr& mgr = *loaded;
+        const CfgGroupMap* groups = mgr.GetCfgGroups(2);
+        ASSERT_NE(groups, nullptr);
+        EXPECT_EQ(groups->size(), 1024u) << "groups past the bound are not read";
+        EXPECT_EQ(groups->count(1098), 0u);
+        EXPECT_EQ(mgr.GetCfgGroups(4), nullptr) << "a negative group count configures nothing";
 
-    const SCfgGroup* first = mgr.GetCfgGroup(2, 0);
-    ASSERT_NE(first, nullptr);
-    EXPECT_EQ(first->strGroupTips, "First");
-    EXPECT_TRUE(first->bSpecialMark);
-    EXPECT_TRUE(first->bAchTips) << "server 1024 is within the bound";
-    ASSERT_NE(mgr.GetCfgServer(2, 0, 0), nullptr);
-    EXPECT_EQ(mgr.GetCfgServer(2, 0, 0)->dwNameColor, 0xFF00FF00u);
-    ASSERT_NE(mgr.GetCfgServer(2, 0, 8), nullptr);
-    EXPECT_TRUE(mgr.GetCfgServer(2, 0, 8)->bAchTips);
-    EXPECT_EQ(mgr.GetCfgServer(2, 0, 9), nullptr) << "server 1025 is past the bound";
-    EXPECT_EQ(mgr.GetCfgServer(2, 0, 2), nullptr) << "\"Server0999\" is not the key of server 999";
-    EXPECT_EQ(first->mapServers.size(), 3u)
-        << "servers 1 and 1024, and one of defaults for the numbers without keys";
+        const SCfgGroup* first = mgr.GetCfgGroup(2, 0);
+        ASSERT_NE(first, nullptr);
+        EXPECT_EQ(first->strGroupTips, "First");
+        EXPECT_TRUE(first->bSpecialMark);
+        EXPECT_TRUE(first->bAchTips) << "server 1024 is within the bound";
+        ASSERT_NE(mgr.GetCfgServer(2, 0, 0), nullptr);
+        EXPECT_EQ(mgr.GetCfgServer(2, 0, 0)->dwNameColor, 0xFF00FF00u);
+        ASSERT_NE(mgr.GetCfgServer(2, 0, 8), nullptr);
+        EXPECT_TRUE(mgr.GetCfgServer(2, 0, 8)->bAchTips);
+        EXPECT_EQ(mgr.GetCfgServer(2, 0, 9), nullptr) << "server 1025 is past the bound";
+        EXPECT_EQ(mgr.GetCfgServer(2, 0, 2), nullptr) << "\"Server0999\" is not the key of server 999";
+        EXPECT_EQ(first->mapServers.size(), 3u)
+            << "servers 1 and 1024, and one of defaults for the numbers without keys";
 
-    const SCfgServer* marked = mgr.GetCfgServer(2, 499, 6);
-    ASSERT_NE(marked, nullptr);
-    EXPECT_EQ(marked->nAchStart, 10);
-    EXPECT_EQ(marked->nAchEnd, 20);
-    EXPECT_FALSE(mgr.GetCfgGroup(2, 1)->bAchTips);
-    EXPECT_EQ(mgr.GetCfgGroup(2, 1)->mapServers.size(), 1u);
+        const SCfgServer* marked = mgr.GetCfgServer(2, 499, 6);
+        ASSERT_NE(marked, nullptr);
+        EXPECT_EQ(marked->nAchStart, 10);
+        EXPECT_EQ(marked->nAchEnd, 20);
+        EXPECT_FALSE(mgr.GetCfgGroup(2, 1)->bAchTips);
+        EXPECT_EQ(mgr.GetCfgGroup(2, 1)->mapServers.size(), 1u);
+    }
 }
 
 TEST(ServerConfiguration, MissingFileSaysSoOncePerLoad) {
