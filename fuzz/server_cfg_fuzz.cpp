@@ -1,5 +1,5 @@
 // Fuzzes the server configuration reading with arbitrary texts: what it keeps stays within its bounds, and
-// reading the same text again changes nothing.
+// reading the same text again (a reload) changes nothing.
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
@@ -12,6 +12,7 @@ constexpr std::size_t MAX_GROUPS = 1024;
 // Every server number up to the bound, and one of defaults.
 constexpr std::size_t MAX_SERVERS = 1024 + 1;
 constexpr std::size_t MAX_TEXT = 1023;
+constexpr unsigned RELOAD_EVERY = 4;
 
 std::size_t CheckAndCount(const CFlashStringMgr& mgr) {
     std::size_t nServers = 0;
@@ -41,8 +42,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     CFlashStringMgr mgr;
     mgr.LoadServerCfgFromText(text);
     const std::size_t nServers = CheckAndCount(mgr);
-    mgr.LoadServerCfgFromText(text);
-    if (CheckAndCount(mgr) != nServers) __builtin_trap();
+    // NOTE: a second load doubles the cost of an input, so one input in RELOAD_EVERY checks it.
+    if (!text.empty() && static_cast<std::uint8_t>(text.back()) % RELOAD_EVERY == 0) {
+        mgr.LoadServerCfgFromText(text);
+        if (CheckAndCount(mgr) != nServers) __builtin_trap();
+    }
     (void)mgr.GetCfgServer(2, 0, 0);
     return 0;
 }

@@ -29,7 +29,6 @@ std::optional<Image> Refuse(std::string* error, std::string what) {
     if (error) *error = std::move(what);
     return std::nullopt;
 }
-
 } // namespace
 
 std::optional<Image> ImageDecoder::Decode(const std::vector<std::uint8_t>& original, std::string* error) {

@@ -44,8 +44,8 @@ void CmykRowToRgba(const std::uint8_t* cmyk, std::uint8_t* rgba, JDIMENSION widt
     }
 }
 
-// The decompression proper. NOTE: the library's errors jump back to the setjmp here, so nothing between
-// them may need a destructor: the output and the row buffer are the caller's, sized before the jump point.
+// The decompression proper. NOTE: the library's errors jump back to the setjmp here, so no object created
+// after it may need a destructor: the output and the row buffer belong to the caller.
 bool Decompress(jpeg_decompress_struct& cinfo, SErrorManager& err, const std::vector<std::uint8_t>& bytes,
                 int maxSide, std::vector<std::uint8_t>& rgba, std::vector<std::uint8_t>& row, Image& image,
                 std::string& error) {

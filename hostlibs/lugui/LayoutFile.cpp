@@ -52,8 +52,17 @@ void CLayoutFile::Parse(std::string_view text, const char* szFile) {
     const txt::IniDocument doc = txt::IniDocument::Parse(text, txt::LAYOUT_RULES);
     for (const txt::IniIssue& issue : doc.Issues()) Report(issue, szFile);
     for (const txt::IniSection& section : doc.Sections()) {
-        CLuLayoutRecord& record = m_mapRecords.try_emplace(ToLower(section.name), section.name).first->second;
-        for (const txt::IniEntry& entry : section.entries) record.AddValue(entry.key, entry.value);
+        const auto [it, inserted] = m_mapRecords.try_emplace(ToLower(section.name));
+        if (!inserted) { // a text parsed after another adds only keys the record lacks
+            for (const txt::IniEntry& entry : section.entries) it->second.AddValue(entry.key, entry.value);
+            continue;
+        }
+        // NOTE: the reader keeps a key's first value, so the keys are distinct: adding them one by one would
+        // compare each with all before it, which is quadratic in a section's size.
+        CLuLayoutRecord::Values values;
+        values.reserve(section.entries.size());
+        for (const txt::IniEntry& entry : section.entries) values.emplace_back(entry.key, entry.value);
+        it->second = CLuLayoutRecord(section.name, std::move(values));
     }
 }
 

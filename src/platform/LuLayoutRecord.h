@@ -12,8 +12,13 @@ namespace LuGui {
 /// A section of the layout file. Owned by the dialog manager for its whole life; windows only point at it.
 class CLuLayoutRecord {
 public:
+    using Values = std::vector<std::pair<std::string, std::string>>;
+
     CLuLayoutRecord() = default;
     explicit CLuLayoutRecord(std::string strName) : m_strName(std::move(strName)) {}
+    /// A record of keys already distinct without regard to case, in file order.
+    CLuLayoutRecord(std::string strName, Values values)
+        : m_strName(std::move(strName)), m_vecValues(std::move(values)) {}
 
     /// The section's name ("Dialog1000", "Dialog1000.1001").
     const char* GetName() const { return m_strName.c_str(); }
@@ -27,7 +32,7 @@ public:
 
 private:
     std::string m_strName;
-    std::vector<std::pair<std::string, std::string>> m_vecValues; ///< in file order; records are small
+    Values m_vecValues; ///< in file order; records are small
 };
 
 } // namespace LuGui

@@ -1,4 +1,5 @@
 // Picture files that were hard to decode, drawn through the graphics library.
+#include <cstdlib>
 #include <fstream>
 #include <iterator>
 #include <string>
@@ -114,6 +115,23 @@ TEST_F(PictureFilesTest, JpegPicturesDecodeAndDamagedOnesAreRefused) {
     EXPECT_EQ(light & 0xFF, (light >> 8) & 0xFF);
     EXPECT_EQ(light & 0xFF, (light >> 16) & 0xFF);
     EXPECT_GT(light & 0xFF, Pixel(0, 0) & 0xFF);
+    bitmap->Release();
+
+    // Adobe CMYK, stored inverted: red on the left half, blue on the right.
+    CopyPicture("cmyk_red_blue.jpg");
+    bitmap = MyBitmapCreate("cmyk_red_blue.jpg");
+    ASSERT_NE(bitmap, nullptr);
+    ASSERT_EQ(bitmap->GetWidth(), 8);
+    bitmap->Show(20, 20);
+    const auto near = [](DWORD colour, DWORD expected) {
+        for (int shift = 0; shift < 32; shift += 8)
+            if (std::abs(static_cast<int>((colour >> shift) & 0xFF) -
+                         static_cast<int>((expected >> shift) & 0xFF)) > 8)
+                return false;
+        return true;
+    };
+    EXPECT_TRUE(near(Pixel(21, 22), kRed)) << std::hex << Pixel(21, 22);
+    EXPECT_TRUE(near(Pixel(26, 22), kBlue)) << std::hex << Pixel(26, 22);
     bitmap->Release();
 
     // A Huffman table of 433 codes (the decoder once wrote past its 256), one that made it shift its bit
