@@ -9,6 +9,7 @@
 
 #include "login/DlgRememberAccount.h"
 #include "login/DlgWeiXinLogin.h"
+#include "login/RecordedAccountRows.h"
 #include "platform/GameData.h"
 #include "platform/Log.h"
 #include "platform/LuGui.h"
@@ -23,7 +24,6 @@ constexpr DWORD ACCOUNT_LIST_NORMAL = 0xFFFFFF;
 constexpr DWORD ACCOUNT_LIST_HIGHLIGHT = 0xFFFF0000;
 constexpr const char* LIST_CHOOSER = "Login_ClickIDBar";
 constexpr int FIELD_READ = 260;
-constexpr int ROW_READ = 256;
 constexpr int INI_READ = 1024;
 constexpr int URL_LIMIT = 1024;
 constexpr const char* LOGIN_URL_SECTION = "loginUrl";
@@ -387,34 +387,16 @@ void CDlgFlashLogin::OnFieldFocus(int nField) {
     m_nFocusField = nField;
 }
 
-std::string CDlgFlashLogin::TakeAccountRow(int nRow) {
-    char szRow[ROW_READ] = {};
-    m_listAccount.GetText(nRow, szRow, sizeof szRow);
-    ScreenContext()->NotifyHost("CMD_SELECTACCOUNT", szRow);
-    m_listAccount.ShowWindow(SW_HIDE);
-    m_bAccountListOpen = false;
-    return szRow;
-}
-
 void CDlgFlashLogin::OnAccountRowChosen(int nRow) {
-    IScreenContext* pContext = ScreenContext();
-    if (!pContext) return;
-    const std::string account = TakeAccountRow(nRow);
-    m_editAccount.SetWindowTextA(account.c_str());
-    m_editAccount.SetFocus();
-    const int nLength = static_cast<int>(account.size());
-    m_editAccount.SetSel(nLength, nLength);
-    pContext->NotifyHost("CMD_TEXTSELECT", "");
-    m_listAccount.ResetContent();
+    if (!ScreenContext()) return;
+    m_bAccountListOpen = false;
+    accountrows::ChooseRow(m_listAccount, m_editAccount, nRow);
 }
 
 void CDlgFlashLogin::OnAccountRowDeleted(int nRow) {
-    IScreenContext* pContext = ScreenContext();
-    if (!pContext) return;
-    TakeAccountRow(nRow);
-    m_listAccount.ClearHover();
-    pContext->ShowMessageBox(MSGBOX_CLEAR_ACCOUNT, nullptr);
-    pContext->NotifyHost("CMD_TEXTSELECT", "");
+    if (!ScreenContext()) return;
+    m_bAccountListOpen = false;
+    accountrows::DeleteRow(m_listAccount, nRow);
 }
 
 // ---- operations for the simulator ----------------------------------------------------------------

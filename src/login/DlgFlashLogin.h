@@ -120,8 +120,6 @@ private:
     void OnFieldFocus(int nField);
     void OnAccountRowChosen(int nRow);
     void OnAccountRowDeleted(int nRow);
-    /// Reads a row of the account list, tells the host and closes the list; returns the row's text.
-    std::string TakeAccountRow(int nRow);
 
     // ---- presses (PreTranslateMessage) ----
     void OnLeftButtonDown(POINT pt);

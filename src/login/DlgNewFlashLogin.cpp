@@ -11,6 +11,7 @@
 #include "login/DlgFlashLoginEn.h"
 #include "login/DlgScanCodeLoginEn.h"
 #include "login/DlgWeiXinLogin.h"
+#include "login/RecordedAccountRows.h"
 #include "platform/GameData.h"
 #include "platform/GameGraphic.h"
 #include "platform/Graphics.h"
@@ -39,7 +40,6 @@ constexpr std::uint32_t STR_FIELD_TEXT_X = 3000186;
 constexpr DWORD CREATE_LINK_WAIT_MS = 10000;
 constexpr int ACCOUNT_READ = 128;
 constexpr int FIELD_READ = 260;
-constexpr int ROW_READ = 256;
 constexpr int URL_READ = 1024;
 constexpr int FIELD_FONT_FORMAT = 3;
 constexpr DWORD ACCOUNT_LIST_NORMAL = 0xFFFFFF;
@@ -431,35 +431,17 @@ void CDlgNewFlashLogin::OnAccountListButton() {
     m_bAccountListOpen = true;
 }
 
-std::string CDlgNewFlashLogin::TakeAccountRow(int nRow) {
-    char szRow[ROW_READ] = {};
-    m_listAccount.GetText(nRow, szRow, sizeof szRow);
-    ScreenContext()->NotifyHost("CMD_SELECTACCOUNT", szRow);
-    m_listAccount.ShowWindow(SW_HIDE);
-    m_bAccountListOpen = false;
-    return szRow;
-}
-
 void CDlgNewFlashLogin::OnAccountRowChosen(int nRow) {
-    IScreenContext* pContext = ScreenContext();
-    if (!pContext) return;
-    const std::string account = TakeAccountRow(nRow);
-    m_editAccount.SetWindowTextA(account.c_str());
-    m_editAccount.SetFocus();
-    const int nLength = static_cast<int>(account.size());
-    m_editAccount.SetSel(nLength, nLength);
+    if (!ScreenContext()) return;
+    m_bAccountListOpen = false;
+    const std::string account = accountrows::ChooseRow(m_listAccount, m_editAccount, nRow);
     SetChecked(m_btnRemember, !account.empty());
-    pContext->NotifyHost("CMD_TEXTSELECT", "");
-    m_listAccount.ResetContent();
 }
 
 void CDlgNewFlashLogin::OnAccountRowDeleted(int nRow) {
-    IScreenContext* pContext = ScreenContext();
-    if (!pContext) return;
-    TakeAccountRow(nRow);
-    m_listAccount.ClearHover();
-    pContext->ShowMessageBox(MSGBOX_CLEAR_ACCOUNT, nullptr);
-    pContext->NotifyHost("CMD_TEXTSELECT", "");
+    if (!ScreenContext()) return;
+    m_bAccountListOpen = false;
+    accountrows::DeleteRow(m_listAccount, nRow);
 }
 
 void CDlgNewFlashLogin::OnLanguageListButton() {

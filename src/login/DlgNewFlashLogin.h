@@ -118,8 +118,6 @@ private:
     void OnSelectLink();
     void OnPanelClose();
     void OnFieldFocus(int nField);
-    /// Reads row nRow of the account list, tells the host and closes the list; returns the row's text.
-    std::string TakeAccountRow(int nRow);
     void OnAccountRowChosen(int nRow);
     void OnAccountRowDeleted(int nRow);
     void OnLanguageRowChosen(int nRow);
