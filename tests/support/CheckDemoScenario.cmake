@@ -2,8 +2,7 @@
 # pictures (tests/golden/SCENARIO/*.png) by piccompare's tolerance. Fails on a step error, on anything drawn
 # outside its window, on text cut at its control unless ALLOW_CUT is set, and on a picture that differs.
 # Variables: FLASHSIM, PICCOMPARE, SOURCE (the project), SCENARIO (name), OUT (a scratch directory), ZH (run it
-# with the Chinese client directory), ALLOW_CUT. A scenario may add files to a copy of its client directory
-# ("# client-file: NAME SOURCE").
+# with the Chinese client directory), ALLOW_CUT.
 set(scenario "${SOURCE}/tools/flashsim/demo/${SCENARIO}.scn")
 set(pictures "${OUT}/pictures")
 file(REMOVE_RECURSE "${OUT}")
@@ -18,28 +17,6 @@ if(ZH)
         message(FATAL_ERROR "cannot assemble the Chinese client directory")
     endif()
     set(client_args --res "${OUT}/client-zh")
-endif()
-
-# "# client-file: NAME SOURCE" lines: the scenario runs on a copy of its client directory with each SOURCE
-# (relative to the demo folder) at NAME, as files the client keeps between runs (the downloaded keyboard
-# picture), so that the sample directory itself never changes.
-file(STRINGS "${scenario}" client_files REGEX "^# client-file: ")
-if(client_files)
-    set(base "${SOURCE}/res")
-    if(ZH)
-        set(base "${OUT}/client-zh")
-    endif()
-    set(client "${OUT}/client")
-    file(COPY "${base}/" DESTINATION "${client}" PATTERN "zh" EXCLUDE)
-    foreach(line IN LISTS client_files)
-        if(NOT line MATCHES "^# client-file: ([^ ]+) ([^ ]+)$")
-            message(FATAL_ERROR "${SCENARIO}: \"${line}\" is not \"# client-file: NAME SOURCE\"")
-        endif()
-        get_filename_component(folder "${client}/${CMAKE_MATCH_1}" DIRECTORY)
-        file(MAKE_DIRECTORY "${folder}")
-        file(COPY_FILE "${SOURCE}/tools/flashsim/demo/${CMAKE_MATCH_2}" "${client}/${CMAKE_MATCH_1}")
-    endforeach()
-    set(client_args --res "${client}")
 endif()
 
 execute_process(COMMAND "${FLASHSIM}" run "${scenario}" --check-drawing --out "${pictures}" ${client_args}

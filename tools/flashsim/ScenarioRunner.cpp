@@ -70,6 +70,7 @@ constexpr long long INT32_LOW = INT32_MIN, INT32_HIGH = INT32_MAX;
 constexpr long long UINT32_HIGH = UINT32_MAX;
 constexpr long long COORD_LOW = INT16_MIN, COORD_HIGH = INT16_MAX; // a mouse message packs 16 bits per side
 constexpr long long MAX_FRAMES_PER_STEP = 1000000;
+constexpr DWORD FRAME_MS = 16; // a frame at about 60 per second
 constexpr long long MAX_VIRTUAL_KEY = 255;
 } // namespace
 
@@ -163,6 +164,8 @@ void ScenarioRunner::Execute(const ScenarioStep& step) {
     if (name == "send") return StepSend(step);
     if (name == "answer") return StepAnswer(step);
     if (name == "scratch") return StepScratch(step);
+    if (name == "serve") return StepServe(step);
+    if (name == "await") return StepAwait(step);
     Fail(step, "unknown step \"" + EscapeText(name) + "\"");
 }
 
@@ -189,6 +192,46 @@ void ScenarioRunner::StepScratch(const ScenarioStep& step) {
     for (const char* szFolder : {"data", "k7pack/data"})
         fs::create_directories(fs::path(m_strScratchDir) / szFolder, ec);
     host::SetClientDir(m_strScratchDir);
+}
+
+void ScenarioRunner::StepServe(const ScenarioStep& step) {
+    if (step.words.size() != 2) return Fail(step, "serve takes a file");
+    if (m_strScratchDir.empty())
+        return Fail(step, "serve needs a scratch copy of the client directory first");
+    if (m_pSite) return Fail(step, "serve is started once per run");
+    namespace fs = std::filesystem;
+    const fs::path base = fs::path(m_options.scenarioPath).parent_path();
+    auto pSite = std::make_unique<LoopbackSite>();
+    std::string error;
+    if (!pSite->Start((base / UnescapeValue(step.words[1])).string(), m_strScratchDir, error))
+        return Fail(step, error);
+    m_pSite = std::move(pSite);
+}
+
+void ScenarioRunner::StepAwait(const ScenarioStep& step) {
+    // NOTE: real time, not the virtual clock: a worker thread is downloading. The transcript stays the same
+    // from run to run because it shows only that a message came, and the one frame that delivered it.
+    constexpr const char* USAGE = "await takes [MS]";
+    constexpr long long DEFAULT_WAIT_MS = 10000;
+    if (step.words.size() > 2) return Fail(step, USAGE);
+    long long ms = DEFAULT_WAIT_MS;
+    if (step.words.size() == 2) {
+        const auto value = Number(step, 1, 0, UINT32_HIGH, USAGE);
+        if (!value) return;
+        ms = *value;
+    }
+    if (!RequireSimulator(step)) return;
+    if (!host::WaitForPostedMessage(static_cast<DWORD>(ms)))
+        return Fail(step, "nothing was posted within " + std::to_string(ms) + " ms");
+    RunFrame(FRAME_MS);
+}
+
+void ScenarioRunner::RunFrame(DWORD dwMilliseconds) {
+    host::AdvanceClock(dwMilliseconds);
+    m_pSim->Process();
+    host::BeginFrame();
+    m_pSim->Show();
+    if (m_options.checkDrawing) ReportOverflows();
 }
 
 void ScenarioRunner::StepCreate(const ScenarioStep& step) {
@@ -267,7 +310,7 @@ void ScenarioRunner::StepFrame(const ScenarioStep& step) {
     constexpr const char* USAGE = "frame takes [N] [MS]";
     if (step.words.size() > 3) return Fail(step, USAGE);
     long long count = 1;
-    long long ms = 16;
+    long long ms = FRAME_MS;
     if (step.words.size() > 1) {
         const auto value = Number(step, 1, 0, MAX_FRAMES_PER_STEP, USAGE);
         if (!value) return;
@@ -279,13 +322,7 @@ void ScenarioRunner::StepFrame(const ScenarioStep& step) {
         ms = *value;
     }
     if (!RequireSimulator(step)) return;
-    for (long long i = 0; i < count; ++i) {
-        host::AdvanceClock(static_cast<DWORD>(ms));
-        m_pSim->Process();
-        host::BeginFrame();
-        m_pSim->Show();
-        if (m_options.checkDrawing) ReportOverflows();
-    }
+    for (long long i = 0; i < count; ++i) RunFrame(static_cast<DWORD>(ms));
 }
 
 void ScenarioRunner::ReportOverflows() {

@@ -1,11 +1,13 @@
 // Executes scenario steps against the system library and writes the transcript.
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <set>
 #include <string>
 #include <vector>
 
+#include "LoopbackSite.h"
 #include "ScenarioParser.h"
 #include "SystemLibrary.h"
 #include "Transcript.h"
@@ -59,6 +61,10 @@ private:
     void StepSend(const ScenarioStep& step);
     void StepAnswer(const ScenarioStep& step);
     void StepScratch(const ScenarioStep& step);
+    void StepServe(const ScenarioStep& step);
+    void StepAwait(const ScenarioStep& step);
+    /// One frame as the game client runs it: the clock moves on, then Process and Show.
+    void RunFrame(DWORD dwMilliseconds);
 
     /// Sends one window message as the game client's window does: PreTranslateMessage, then WindowProc.
     void SendToWindow(UINT uMsg, WPARAM wParam, LPARAM lParam, bool bPreTranslate);
@@ -80,4 +86,6 @@ private:
     std::set<std::string> m_reportedOverflows;
     /// The scratch copy of the client directory made by "scratch", removed when the run ends.
     std::string m_strScratchDir;
+    /// The login service started by "serve".
+    std::unique_ptr<LoopbackSite> m_pSite;
 };

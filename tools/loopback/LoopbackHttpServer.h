@@ -1,5 +1,5 @@
-// A small HTTP server on 127.0.0.1 for tests and benchmarks: each connection on its own thread, answers
-// scripted per test (status, body, a reset or a short body, a body held back until the test lets it go).
+// A small HTTP server on 127.0.0.1 for tests, benchmarks and the reference host: each connection on its own
+// thread, answers scripted (status, body, a reset or a short body, a body held back until released).
 #pragma once
 
 #include <arpa/inet.h>
