@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "login/DlgFlashLogin.h"
+#include "login/RecordedAccountRows.h"
 #include "platform/GameData.h"
 #include "platform/GameGraphic.h"
 #include "platform/Graphics.h"
@@ -24,11 +25,8 @@ constexpr std::uint32_t STR_QR_ERROR_OFFSET = 4000003;
 constexpr std::uint32_t STR_QR_SIZE = 4000009;
 constexpr std::uint32_t STR_EXTERNAL_LABEL = 4000010;
 constexpr std::uint32_t STR_WECHAT = 4000011;
-constexpr std::uint32_t STR_DELETE_TIP = 4000006;
-constexpr std::uint32_t STR_DELETE_TIP_OFFSET = 4000005;
 constexpr std::uint32_t STR_TOKEN_ONLY_OFFSET = 4100009;
 constexpr int INI_READ = 1024;
-constexpr DWORD TIP_COLOUR = 0xFFFFFFFF;
 constexpr const char* QR_EXPIRED_ANI = "Newlogin_NoQRCodeBG";
 constexpr const char* DELETE_MARK_ANI = "Login_SliceBtn";
 
@@ -242,24 +240,7 @@ void CDlgFlashLogin::DrawQRPicture() {
 }
 
 void CDlgFlashLogin::DrawDeleteMark() {
-    if (!m_bAccountListOpen) return;
-    const int nRowHeight = m_listAccount.GetRowHeight();
-    const int nHover = m_listAccount.GetHoverRow();
-    if (nRowHeight <= 0 || nHover < 0) return;
-    POINT pt{};
-    GetCursorPos(&pt);
-    const int nRow = (pt.y - m_listAccount.GetWindowRect().top) / nRowHeight;
-    if (nRow < 0 || nRow >= m_listAccount.GetVisibleRowCount()) return;
-    const RECT rc = m_listAccount.GetCloseRect(nRow);
-    if (rc.right <= rc.left) return;
-    CGameGraphic::ShowCtrlAni(DELETE_MARK_ANI, rc.left, rc.top);
-    const bool bInside = pt.x >= rc.left && pt.x <= rc.right && pt.y >= rc.top && pt.y <= rc.bottom;
-    IScreenContext* pContext = ScreenContext();
-    if (!bInside || !pContext || !GetGuiMgr()) return;
-    int offset[2] = {0, 0};
-    READ_LAYOUT_NUMBERS(STR_DELETE_TIP_OFFSET, offset);
-    GetGuiMgr()->ShowTip(pContext->GetStr(STR_DELETE_TIP), rc.left + offset[0], rc.top + offset[1],
-                         TIP_COLOUR);
+    if (m_bAccountListOpen) accountrows::DrawDeleteMark(m_listAccount, DELETE_MARK_ANI);
 }
 
 void CDlgFlashLogin::ShowAndEnable(LuGui::CLuBaseWindow& wnd, bool bOn) {

@@ -33,8 +33,6 @@ constexpr std::uint32_t STR_ACCOUNT_LIST_MARK = 8000017;
 constexpr std::uint32_t STR_ACCOUNT_LIST_ROWS = 8000018;
 constexpr std::uint32_t STR_LANGUAGE_LIST_FONT = 8000020;
 constexpr std::uint32_t STR_LANGUAGE_ICON_OFFSET = 8000021;
-constexpr std::uint32_t STR_DELETE_TIP = 4000006;
-constexpr std::uint32_t STR_DELETE_TIP_OFFSET = 4000005;
 constexpr std::uint32_t STR_FIELD_TEXT_X = 3000186;
 
 constexpr DWORD CREATE_LINK_WAIT_MS = 10000;
@@ -46,7 +44,6 @@ constexpr DWORD ACCOUNT_LIST_NORMAL = 0xFFFFFF;
 constexpr DWORD ACCOUNT_LIST_HIGHLIGHT = 0xFFFF0000;
 constexpr DWORD LANGUAGE_LIST_NORMAL = 0xAB9160;
 constexpr DWORD LANGUAGE_CURRENT_COLOUR = 0xF7ECB5;
-constexpr DWORD TIP_COLOUR = 0xFFFFFFFF;
 constexpr const char* LIST_CHOOSER = "NewLogin_TipsSelectPic";
 constexpr const char* LANGUAGE_LIST_BG = "newlogin_tcdb";
 constexpr const char* DELETE_MARK_ANI = "NewLogin_XBtn";
@@ -276,24 +273,7 @@ void CDlgNewFlashLogin::UpdateCreateLinkTimer() {
 }
 
 void CDlgNewFlashLogin::ShowDeleteMark() {
-    if (!m_bAccountListOpen) return;
-    const int nRowHeight = m_listAccount.GetRowHeight();
-    const int nHover = m_listAccount.GetHoverRow();
-    if (nRowHeight <= 0 || nHover < 0) return;
-    POINT pt{};
-    GetCursorPos(&pt);
-    const int nRow = (pt.y - m_listAccount.GetWindowRect().top) / nRowHeight;
-    if (nRow < 0 || nRow >= m_listAccount.GetVisibleRowCount()) return;
-    const RECT rc = m_listAccount.GetCloseRect(nRow);
-    if (rc.right <= rc.left) return;
-    CGameGraphic::ShowCtrlAni(DELETE_MARK_ANI, rc.left, rc.top);
-    const bool bInside = pt.x >= rc.left && pt.x <= rc.right && pt.y >= rc.top && pt.y <= rc.bottom;
-    IScreenContext* pContext = ScreenContext();
-    if (!bInside || !pContext || !GetGuiMgr()) return;
-    int offset[2] = {0, 0};
-    READ_LAYOUT_NUMBERS(STR_DELETE_TIP_OFFSET, offset);
-    GetGuiMgr()->ShowTip(pContext->GetStr(STR_DELETE_TIP), rc.left + offset[0], rc.top + offset[1],
-                         TIP_COLOUR);
+    if (m_bAccountListOpen) accountrows::DrawDeleteMark(m_listAccount, DELETE_MARK_ANI);
 }
 
 void CDlgNewFlashLogin::Reset() {

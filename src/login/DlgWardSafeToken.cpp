@@ -4,14 +4,12 @@
 #include <initializer_list>
 
 #include "login/LoginInput.h"
-#include "platform/Log.h"
 #include "screen/ScreenContext.h"
 
 namespace {
 constexpr std::uint32_t STR_TOKEN_CAPTION = 4000015;
 constexpr std::uint32_t STR_TOKEN_HINT = 4000016;
 constexpr std::uint32_t STR_TOKEN_ERROR = 4000019;
-constexpr DWORD TOKEN_TEXT_COLOR = 0xFFFFFF;
 
 using Windows = std::initializer_list<LuGui::CLuBaseWindow*>;
 
@@ -21,7 +19,7 @@ void ShowAndEnable(LuGui::CLuBaseWindow& wnd, bool bOn) {
 }
 } // namespace
 
-CDlgWardSafeToken::CDlgWardSafeToken() : CSimDialog(IDD) {
+CDlgWardSafeToken::CDlgWardSafeToken() : CSimDialog(IDD), m_editToken(INPUT_WARD_TOKEN) {
 }
 
 CDlgWardSafeToken::~CDlgWardSafeToken() = default;
@@ -50,7 +48,7 @@ void CDlgWardSafeToken::MessageMap() {
 
 void CDlgWardSafeToken::PreSetParam() {
     CSimDialog::PreSetParam();
-    m_editToken.PreSetParam(false, 0, TOKEN_TEXT_COLOR, false);
+    m_editToken.PreSetTokenParam();
 }
 
 BOOL CDlgWardSafeToken::OnInitDialog() {
@@ -60,8 +58,7 @@ BOOL CDlgWardSafeToken::OnInitDialog() {
     m_staTokenCaption.SetWindowTextA(pContext->GetStr(STR_TOKEN_CAPTION));
     m_staError.SetWindowTextA(pContext->GetStr(STR_TOKEN_ERROR));
     m_staTokenHint.SetWindowTextA(pContext->GetStr(STR_TOKEN_HINT));
-    m_editToken.SetLimitText(TOKEN_LIMIT);
-    m_editToken.SetWindowTextA("");
+    m_editToken.ResetEmpty();
     return TRUE;
 }
 
@@ -96,34 +93,6 @@ void CDlgWardSafeToken::ShowTokenError() {
     EnableWindow(TRUE);
     ShowWindow(SW_SHOW);
     SetPage(PAGE_ERROR);
-}
-
-void CDlgWardSafeToken::SetInputText(const char* szText, int nField) {
-    if (!szText || nField < 0) return;
-    if (nField != INPUT_WARD_TOKEN) {
-        LogMsg("ASSERT(false) in %d line of %s", __LINE__, __FILE__);
-        return;
-    }
-    m_editToken.SetWindowTextA(szText);
-}
-
-void CDlgWardSafeToken::SetSelectionEdge(bool bEnd, int nValue) {
-    if (!bEnd) {
-        m_nSelStart = nValue;
-        DebugMsg("Get Setting Start = %d", nValue);
-        return;
-    }
-    m_nSelEnd = nValue;
-    DebugMsg("Get Setting End = %d", nValue);
-    m_editToken.SetSel(m_nSelStart, m_nSelEnd);
-}
-
-int CDlgWardSafeToken::GetSelectionEdge(bool bEnd) {
-    if (bEnd) return m_nSelEnd;
-    const DWORD dwSel = m_editToken.GetSel();
-    m_nSelStart = LOWORD(dwSel);
-    m_nSelEnd = HIWORD(dwSel);
-    return m_nSelStart;
 }
 
 // ---- pages ---------------------------------------------------------------------------------------

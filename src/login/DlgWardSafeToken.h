@@ -3,8 +3,8 @@
 
 #include "controls/SimButton.h"
 #include "controls/SimDialog.h"
-#include "controls/SimEdit.h"
 #include "controls/SimStatic.h"
+#include "login/TokenField.h"
 
 class CDlgWardSafeToken : public CSimDialog {
 public:
@@ -13,9 +13,6 @@ public:
 
     static constexpr UINT IDC_CLOSE = 1147, IDC_TOKEN_CAPTION = 1152, IDC_TOKEN = 1016;
     static constexpr UINT IDC_TOKEN_HINT = 1158, IDC_OK = 1154, IDC_ERROR = 1156, IDC_BACK = 1157;
-    /// The token field takes at most this many characters.
-    static constexpr int TOKEN_LIMIT = 8;
-
     CDlgWardSafeToken();
     ~CDlgWardSafeToken() override;
 
@@ -30,13 +27,8 @@ public:
     void StartEntry();
     /// The host refused the token: shown, enabled, on the error page.
     void ShowTokenError();
-    /// The host's (already masked) text for field 6; another field number is an assertion.
-    void SetInputText(const char* szText, int nField);
-    /// The host's selection edges of the token field; the end selects from start to end.
-    void SetSelectionEdge(bool bEnd, int nValue);
-    /// "VAR_STARTTOVC" (reads the field's selection, answers its start) and "VAR_ENDTOVC" (the end read
-    /// then).
-    int GetSelectionEdge(bool bEnd);
+    /// Field 6: the host's (already masked) text and its selection edges ("VAR_STARTTOVC", "VAR_ENDTOVC").
+    CTokenField& TokenField() { return m_editToken; }
 
     void SetPage(int nPage);
     int GetPage() const { return m_nPage; }
@@ -46,13 +38,11 @@ private:
     void OnBack();
     void OnClose();
 
-    int m_nSelStart = 0;
-    int m_nSelEnd = 0;
     int m_nPage = 0;
 
     CSimButton m_btnClose;
     CSimStatic m_staTokenCaption;
-    CSimEdit m_editToken;
+    CTokenField m_editToken;
     CSimStatic m_staTokenHint;
     CSimButton m_btnOK;
     CSimStatic m_staError;

@@ -7,7 +7,6 @@
 
 #include "common/SysLog.h"
 #include "login/LoginInput.h"
-#include "platform/Log.h"
 #include "screen/ScreenContext.h"
 
 namespace {
@@ -18,7 +17,6 @@ constexpr std::uint32_t STR_TOKEN_CAPTION = 4000015;
 constexpr std::uint32_t STR_TOKEN_HINT = 4000016;
 constexpr std::uint32_t STR_SERVER_CAPTION = 4000017;
 constexpr std::uint32_t STR_SCAN_AGAIN = 4000018;
-constexpr DWORD TOKEN_TEXT_COLOR = 0xFFFFFF;
 
 using Windows = std::initializer_list<LuGui::CLuBaseWindow*>;
 
@@ -32,7 +30,7 @@ void Notify(const char* szCommand) {
 }
 } // namespace
 
-CDlgWeiXinLogin::CDlgWeiXinLogin() : CSimDialog(IDD) {
+CDlgWeiXinLogin::CDlgWeiXinLogin() : CSimDialog(IDD), m_editToken(INPUT_WEIXIN_TOKEN) {
 }
 
 CDlgWeiXinLogin::~CDlgWeiXinLogin() = default;
@@ -70,7 +68,7 @@ void CDlgWeiXinLogin::MessageMap() {
 
 void CDlgWeiXinLogin::PreSetParam() {
     CSimDialog::PreSetParam();
-    m_editToken.PreSetParam(false, 0, TOKEN_TEXT_COLOR, false);
+    m_editToken.PreSetTokenParam();
 }
 
 // ---- initialisation and messages -----------------------------------------------------------------
@@ -90,8 +88,7 @@ BOOL CDlgWeiXinLogin::OnInitDialog() {
     m_staTokenCaption.SetWindowTextA(pContext->GetStr(STR_TOKEN_CAPTION));
     m_staTokenHint.SetWindowTextA(pContext->GetStr(STR_TOKEN_HINT));
     m_staError.SetWindowTextA(pContext->GetStr(STR_TOKEN_ERROR));
-    m_editToken.SetLimitText(TOKEN_LIMIT);
-    m_editToken.SetWindowTextA("");
+    m_editToken.ResetEmpty();
     return TRUE;
 }
 
@@ -135,26 +132,6 @@ void CDlgWeiXinLogin::ShowTokenError() {
     EnableWindow(TRUE);
     ShowWindow(SW_SHOW);
     SetPage(PAGE_TOKEN_ERROR);
-}
-
-void CDlgWeiXinLogin::SetInputText(const char* szText, int nField) {
-    if (!szText || nField < 0) return;
-    if (nField != INPUT_WEIXIN_TOKEN) {
-        LogMsg("ASSERT(false) in %d line of %s", __LINE__, __FILE__);
-        return;
-    }
-    m_editToken.SetWindowTextA(szText);
-}
-
-void CDlgWeiXinLogin::SetSelectionEdge(bool bEnd, int nValue) {
-    if (!bEnd) {
-        m_nSelStart = nValue;
-        DebugMsg("Get Setting Start = %d", nValue);
-        return;
-    }
-    m_nSelEnd = nValue;
-    DebugMsg("Get Setting End = %d", nValue);
-    m_editToken.SetSel(m_nSelStart, m_nSelEnd);
 }
 
 // ---- pages ---------------------------------------------------------------------------------------

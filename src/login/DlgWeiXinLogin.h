@@ -3,8 +3,8 @@
 
 #include "controls/SimButton.h"
 #include "controls/SimDialog.h"
-#include "controls/SimEdit.h"
 #include "controls/SimStatic.h"
+#include "login/TokenField.h"
 
 class CDlgWeiXinLogin : public CSimDialog {
 public:
@@ -17,9 +17,6 @@ public:
     static constexpr UINT IDC_CLOSE = 1147, IDC_TITLE = 1159, IDC_TOKEN_CAPTION = 1152, IDC_TOKEN = 1016;
     static constexpr UINT IDC_TOKEN_HINT = 1158, IDC_OK = 1154, IDC_CANCEL = 1019;
     static constexpr UINT IDC_ERROR = 1156, IDC_CONFIRM = 1157;
-    /// The token field takes at most this many characters.
-    static constexpr int TOKEN_LIMIT = 8;
-
     CDlgWeiXinLogin();
     ~CDlgWeiXinLogin() override;
 
@@ -36,10 +33,8 @@ public:
     void AskForToken();
     /// The host refused the security code: shown, enabled, on the error page.
     void ShowTokenError();
-    /// The host's text for field 5 (unmasked); another field number is an assertion.
-    void SetInputText(const char* szText, int nField);
-    /// The host's selection edges of the token field; the end selects from start to end.
-    void SetSelectionEdge(bool bEnd, int nValue);
+    /// Field 5: the host's (unmasked) text and its selection edges.
+    CTokenField& TokenField() { return m_editToken; }
 
     void SetPage(int nPage);
     int GetPage() const { return m_nPage; }
@@ -53,15 +48,13 @@ private:
     void ShowPageToken();
     void ShowPageError();
 
-    int m_nSelStart = 0;
-    int m_nSelEnd = 0;
     int m_nPage = 0;
 
     CSimStatic m_staWebArea, m_staScanAgain;
     CSimStatic m_staGroupCaption, m_staGroupName, m_staServerCaption, m_staServerName, m_staCurrent;
     CSimButton m_btnClose;
     CSimStatic m_staTitle, m_staTokenCaption;
-    CSimEdit m_editToken;
+    CTokenField m_editToken;
     CSimStatic m_staTokenHint;
     CSimButton m_btnOK, m_btnCancel;
     CSimStatic m_staError;

@@ -2,11 +2,18 @@
 // deleting it asks whether to forget the account; either way the host hears the row and the list closes.
 #include "login/RecordedAccountRows.h"
 
+#include "platform/GameGraphic.h"
+#include "platform/Input.h"
+#include "platform/LuGui.h"
+#include "screen/LayoutNumbers.h"
 #include "screen/ScreenContext.h"
 
 namespace {
 constexpr int ROW_READ = 256;
-}
+constexpr std::uint32_t STR_DELETE_TIP = 4000006;
+constexpr std::uint32_t STR_DELETE_TIP_OFFSET = 4000005;
+constexpr DWORD TIP_COLOUR = 0xFFFFFFFF;
+} // namespace
 
 namespace accountrows {
 
@@ -16,6 +23,25 @@ std::string TakeRow(CSimList& list, int nRow) {
     ScreenContext()->NotifyHost("CMD_SELECTACCOUNT", szRow);
     list.ShowWindow(SW_HIDE);
     return szRow;
+}
+
+void DrawDeleteMark(CSimList& list, const char* szMarkAni) {
+    const int nRowHeight = list.GetRowHeight();
+    if (nRowHeight <= 0 || list.GetHoverRow() < 0) return;
+    POINT pt{};
+    GetCursorPos(&pt);
+    const int nRow = (pt.y - list.GetWindowRect().top) / nRowHeight;
+    if (nRow < 0 || nRow >= list.GetVisibleRowCount()) return;
+    const RECT rc = list.GetCloseRect(nRow);
+    if (rc.right <= rc.left) return;
+    CGameGraphic::ShowCtrlAni(szMarkAni, rc.left, rc.top);
+    const bool bInside = pt.x >= rc.left && pt.x <= rc.right && pt.y >= rc.top && pt.y <= rc.bottom;
+    IScreenContext* pContext = ScreenContext();
+    if (!bInside || !pContext || !list.GetGuiMgr()) return;
+    int offset[2] = {0, 0};
+    READ_LAYOUT_NUMBERS(STR_DELETE_TIP_OFFSET, offset);
+    list.GetGuiMgr()->ShowTip(pContext->GetStr(STR_DELETE_TIP), rc.left + offset[0], rc.top + offset[1],
+                              TIP_COLOUR);
 }
 
 std::string ChooseRow(CSimList& list, CSimEdit& account, int nRow) {

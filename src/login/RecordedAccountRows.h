@@ -13,6 +13,9 @@ std::string TakeRow(CSimList& list, int nRow);
 /// The chosen row into the account field with the caret at its end, then "CMD_TEXTSELECT"; the list is
 /// emptied. Returns the account.
 std::string ChooseRow(CSimList& list, CSimEdit& account, int nRow);
+/// The delete mark (animation szMarkAni) on the row under the cursor of an open list, and over the mark the
+/// tip that says what it does.
+void DrawDeleteMark(CSimList& list, const char* szMarkAni);
 /// The deleted row: the message box asks whether to forget the account, then "CMD_TEXTSELECT".
 void DeleteRow(CSimList& list, int nRow);
 } // namespace accountrows

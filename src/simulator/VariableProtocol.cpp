@@ -155,7 +155,7 @@ void VarShowSoftKb(CFlashSimulator& sim, const char* szValue) {
 
 void VarLoginHelmSafeWeiXin(CFlashSimulator& sim, const char* szValue) {
     DebugMsg("safetoken : %s", szValue);
-    sim.Dialogs().m_dlgWeiXinLogin.SetInputText(szValue, INPUT_WEIXIN_TOKEN);
+    sim.Dialogs().m_dlgWeiXinLogin.TokenField().SetHostText(szValue, INPUT_WEIXIN_TOKEN);
 }
 
 // The code as shown: one "*" per byte, at most 255 of them.
@@ -174,7 +174,7 @@ void VarLoginHelmSafe(CFlashSimulator& sim, const char* szValue) {
 
 void VarLoginHelmSafeWard(CFlashSimulator& sim, const char* szValue) {
     DebugMsg("safetoken : %s", szValue);
-    sim.Dialogs().m_dlgWardSafeToken.SetInputText(SMaskedToken(szValue).text, INPUT_WARD_TOKEN);
+    sim.Dialogs().m_dlgWardSafeToken.TokenField().SetHostText(SMaskedToken(szValue).text, INPUT_WARD_TOKEN);
 }
 
 void VarStartToFlash(CFlashSimulator& sim, const char* szValue) {
@@ -186,19 +186,19 @@ void VarEndToFlash(CFlashSimulator& sim, const char* szValue) {
 }
 
 void VarStartToFlashWeiXin(CFlashSimulator& sim, const char* szValue) {
-    sim.Dialogs().m_dlgWeiXinLogin.SetSelectionEdge(false, SafeAtoi(szValue));
+    sim.Dialogs().m_dlgWeiXinLogin.TokenField().SetSelectionEdge(false, SafeAtoi(szValue));
 }
 
 void VarEndToFlashWeiXin(CFlashSimulator& sim, const char* szValue) {
-    sim.Dialogs().m_dlgWeiXinLogin.SetSelectionEdge(true, SafeAtoi(szValue));
+    sim.Dialogs().m_dlgWeiXinLogin.TokenField().SetSelectionEdge(true, SafeAtoi(szValue));
 }
 
 void VarStartToFlashWard(CFlashSimulator& sim, const char* szValue) {
-    sim.Dialogs().m_dlgWardSafeToken.SetSelectionEdge(false, SafeAtoi(szValue));
+    sim.Dialogs().m_dlgWardSafeToken.TokenField().SetSelectionEdge(false, SafeAtoi(szValue));
 }
 
 void VarEndToFlashWard(CFlashSimulator& sim, const char* szValue) {
-    sim.Dialogs().m_dlgWardSafeToken.SetSelectionEdge(true, SafeAtoi(szValue));
+    sim.Dialogs().m_dlgWardSafeToken.TokenField().SetSelectionEdge(true, SafeAtoi(szValue));
 }
 
 void VarGameBackLogin(CFlashSimulator& sim, const char* szValue) {
@@ -439,7 +439,7 @@ const char* GetLoginVariable(CFlashSimulator& sim, const char* szName) {
     else if (EqualsNoCase(szName, "VAR_STARTTOVC") || EqualsNoCase(szName, "VAR_ENDTOVC")) {
         const bool bEnd = EqualsNoCase(szName, "VAR_ENDTOVC");
         nResult = dialogs.m_dlgWardSafeToken.IsWindowVisible()
-                      ? dialogs.m_dlgWardSafeToken.GetSelectionEdge(bEnd)
+                      ? dialogs.m_dlgWardSafeToken.TokenField().GetSelectionEdge(bEnd)
                       : dialogs.m_dlgNewFlashLogin.GetSelectionEdge(bEnd);
     } else
         return "";
