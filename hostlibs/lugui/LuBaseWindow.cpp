@@ -78,6 +78,12 @@ RECT CLuBaseWindow::GetWindowRect() const {
                 AddSaturated(m_rc.right, origin.x), AddSaturated(m_rc.bottom, origin.y)};
 }
 
+RECT CLuBaseWindow::GetDrawRect() const {
+    const RECT rc = GetWindowRect();
+    return RECT{AddSaturated(rc.left, -m_rcDrawMargin.left), AddSaturated(rc.top, -m_rcDrawMargin.top),
+                AddSaturated(rc.right, m_rcDrawMargin.right), AddSaturated(rc.bottom, m_rcDrawMargin.bottom)};
+}
+
 void CLuBaseWindow::GetClientRect(RECT* pRect) const {
     if (pRect) *pRect = RECT{0, 0, GetWidth(), GetHeight()};
 }

@@ -12,7 +12,7 @@ gfx::WindowTag TagOf(const CLuBaseWindow& window) {
     gfx::WindowTag tag;
     tag.dialog = pDialog ? pDialog->GetDlgCtrlID() : window.GetDlgCtrlID();
     tag.control = pDialog ? window.GetDlgCtrlID() : 0;
-    tag.rect = gfx::Rect::FromRECT(gfx::ClampRECT(window.GetWindowRect()));
+    tag.rect = gfx::Rect::FromRECT(gfx::ClampRECT(window.GetDrawRect()));
     return tag;
 }
 } // namespace

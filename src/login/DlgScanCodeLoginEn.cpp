@@ -33,6 +33,9 @@ constexpr int BACKGROUND_EXTRA_HEIGHT = 25;
 } // namespace
 
 CDlgScanCodeLoginEn::CDlgScanCodeLoginEn() : CSimDialog(IDD), m_renderer(PICTURE_FILE, LOCK_FAIL_TEXT) {
+    // The panel's frame lies around the dialog; its clip must not cut it.
+    SetDrawMargin(RECT{BACKGROUND_LEFT, BACKGROUND_TOP, BACKGROUND_EXTRA_WIDTH - BACKGROUND_LEFT,
+                       BACKGROUND_EXTRA_HEIGHT - BACKGROUND_TOP});
 }
 
 CDlgScanCodeLoginEn::~CDlgScanCodeLoginEn() = default;

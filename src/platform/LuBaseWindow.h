@@ -86,6 +86,12 @@ public:
     BOOL SetWindowPos(const CLuBaseWindow* pInsertAfter, int x, int y, int cx, int cy, UINT nFlags);
     /// Whether the screen point lies inside the window (right and bottom excluded).
     bool HitTest(POINT ptScreen) const;
+    /// How far past its rectangle the window may draw (left, top, right, bottom; 0 by default): a frame
+    /// drawn around the window stays visible instead of being cut by its clip. Clicks still hit the rectangle
+    /// only.
+    void SetDrawMargin(const RECT& rcMargin) { m_rcDrawMargin = rcMargin; }
+    /// The screen rectangle the window may draw in: its rectangle grown by the draw margin.
+    RECT GetDrawRect() const;
 
     // ---- state ----------------------------------------------------------------------------------
 
@@ -175,6 +181,7 @@ protected:
     bool m_bShowBackGround = false;
     POINT m_ptBgOffset{0, 0};
     POINT m_ptDrawOffset{0, 0};
+    RECT m_rcDrawMargin{0, 0, 0, 0};
     CGui3DEffect* m_pBgEffect = nullptr;
     CGui3DEffect* m_pFgEffect = nullptr;
 
