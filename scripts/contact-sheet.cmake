@@ -35,9 +35,11 @@ foreach(scenario IN LISTS scenarios)
             endif()
             continue()
         endif()
-        # The password and the security tokens are never shown, not even the demo's.
+        # The password and the security tokens are never shown, not even the demo's: typed text may be either.
         if(line MATCHES "^set (VAR_LOGINPASS|VAR_LOGINHELMSAFE|VAR_LOGINHELMSAFE_WEIXIN|VAR_LOGINHELMSAFE_WARD) ")
             set(line "set ${CMAKE_MATCH_1} ******")
+        elseif(line MATCHES "^char ")
+            set(line "char ******")
         endif()
         set(in_header FALSE)
         if(line MATCHES "^shot (.+)$")
