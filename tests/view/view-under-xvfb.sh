@@ -78,4 +78,19 @@ echo "quit" >&3
 wait_for bash -c "! kill -0 $view_pid 2>/dev/null" || fail "the window did not close"
 wait "$view_pid" || fail "view exited with $?"
 if grep -q "s3cret" "$out/transcript.txt" "$out/stderr.txt"; then fail "the password reached the terminal"; fi
+# A directory without a layout file: the window opens and says so; steps are refused with the reason.
+mkdir "$out/empty"
+mkfifo "$out/console-empty"
+exec 4<>"$out/console-empty"
+SDL_AUDIODRIVER=dummy "$flashsim" view "$out/empty" <"$out/console-empty" >"$out/empty-transcript.txt" \
+    2>"$out/empty-stderr.txt" &
+pids+=($!)
+empty_pid=$!
+wait_for grep -q "window .* open" "$out/empty-transcript.txt" || fail "no window without a layout file"
+grep -q "No layout file (FlashGui.ini) in $out/empty" "$out/empty-stderr.txt" || fail "the missing layout is not named"
+echo "set VAR_LOGINUSER hero" >&4
+echo "quit" >&4
+wait_for bash -c "! kill -0 $empty_pid 2>/dev/null" || fail "the window without a layout did not close"
+wait "$empty_pid" || fail "view without a layout exited with $?"
+[ "$(grep -c "No layout file" "$out/empty-stderr.txt")" -eq 2 ] || fail "the step was not refused"
 echo "PASSED"

@@ -37,6 +37,7 @@ constexpr DWORD BACKDROP_COLOUR = 0xFF202028;
 // A frame never advances the virtual clock by more than this, so a stopped debugger does not fast-forward.
 constexpr DWORD MAX_FRAME_MS = 250;
 constexpr std::size_t CONSOLE_READ_BYTES = 4096;
+constexpr int DEFAULT_REFRESH_HZ = 60;
 
 // Keys of the game client's window: SDL's key to the virtual key the library expects; 0 for none.
 int VirtualKeyOf(SDL_Keycode key) {
@@ -120,6 +121,8 @@ private:
     void DrawMessage(const std::string& text);
     void Present();
     void NoteNewCommands();
+    /// Waits out the rest of a display refresh when presenting did not (no vertical sync, as under Xvfb).
+    void KeepRefreshRate(std::chrono::steady_clock::time_point frameStart) const;
 
     ViewOptions m_options;
     Transcript m_transcript;
@@ -140,6 +143,7 @@ private:
     std::size_t m_nTranscriptSeen = 0;
     std::string m_message; ///< shown instead of the library's frame (no layout file)
     std::chrono::steady_clock::time_point m_lastFrame;
+    std::chrono::microseconds m_refreshInterval{1000000 / DEFAULT_REFRESH_HZ};
 };
 
 RunOptions ViewWindow::MakeRunOptions(const ViewOptions& options) {
@@ -173,6 +177,9 @@ bool ViewWindow::OpenWindow() {
     if (!m_pRenderer) return false;
     // Mouse coordinates arrive in canvas pixels whatever the window's size.
     SDL_RenderSetLogicalSize(m_pRenderer, m_nWidth, m_nHeight);
+    SDL_DisplayMode mode{};
+    if (SDL_GetCurrentDisplayMode(SDL_GetWindowDisplayIndex(m_pWindow), &mode) == 0 && mode.refresh_rate > 0)
+        m_refreshInterval = std::chrono::microseconds(1000000 / mode.refresh_rate);
     m_pTexture = SDL_CreateTexture(m_pRenderer, SDL_PIXELFORMAT_RGBA32, SDL_TEXTUREACCESS_STREAMING, m_nWidth,
                                    m_nHeight);
     SDL_StartTextInput();
@@ -346,6 +353,13 @@ void ViewWindow::Frame() {
     }
 }
 
+void ViewWindow::KeepRefreshRate(std::chrono::steady_clock::time_point frameStart) const {
+    const auto spent = std::chrono::steady_clock::now() - frameStart;
+    if (spent < m_refreshInterval)
+        SDL_Delay(static_cast<Uint32>(
+            std::chrono::duration_cast<std::chrono::milliseconds>(m_refreshInterval - spent).count()));
+}
+
 void ViewWindow::Present() {
     int nWidth = 0, nHeight = 0;
     const std::vector<std::uint8_t> pixels = host::GetRasterPixels(nWidth, nHeight);
@@ -393,11 +407,13 @@ int ViewWindow::Run() {
     std::fflush(stdout);
     m_lastFrame = std::chrono::steady_clock::now();
     while (!m_bQuit) {
+        const auto frameStart = std::chrono::steady_clock::now();
         SDL_Event event;
         while (SDL_PollEvent(&event)) HandleEvent(event);
         PollConsole();
         Frame();
         Present();
+        KeepRefreshRate(frameStart);
     }
     if (m_bLibrary && m_runner.Simulator()) RunLine("destroy", 0);
     CloseWindow();
