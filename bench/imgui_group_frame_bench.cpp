@@ -4,6 +4,7 @@
 #include <benchmark/benchmark.h>
 #include <imgui.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -160,7 +161,7 @@ void BM_GroupFrame_DearImGui(benchmark::State& state) {
 }
 BENCHMARK(BM_GroupFrame_DearImGui);
 
-// The console report, and each benchmark's time per frame kept for the ratio.
+// The console report, and each benchmark's CPU time per frame kept for the ratio.
 class RatioReporter : public benchmark::ConsoleReporter {
 public:
     void ReportRuns(const std::vector<Run>& runs) override {

@@ -7,6 +7,7 @@
 #include <cstdio>
 
 #include "Graphics.h"
+#include "hostlibs/HostEnv.h"
 #include "hostlibs/HostGui.h"
 
 namespace {
@@ -109,12 +110,16 @@ std::vector<std::string> DebugOverlay::Lines(int x, int y) const {
 void DebugOverlay::Draw(int x, int y) const {
     const std::vector<std::string> lines = Lines(x, y);
     CMyBitmap::SetClipRect(nullptr); // the frame may end with a control's clip
+    // The panel keeps to the right edge: the screens' own controls start at the left.
+    int nScreenWidth = 0, nScreenHeight = 0;
+    host::GetScreenSize(nScreenWidth, nScreenHeight);
+    const int nLeft = std::max(0, nScreenWidth - PANEL_WIDTH);
     const int nHeight = static_cast<int>(lines.size()) * LINE_HEIGHT + 2 * MARGIN;
-    CMyBitmap::ShowBlock(RECT{0, 0, PANEL_WIDTH, nHeight}, PANEL_COLOUR);
+    CMyBitmap::ShowBlock(RECT{nLeft, 0, nLeft + PANEL_WIDTH, nHeight}, PANEL_COLOUR);
     int nTop = MARGIN;
     for (const std::string& line : lines) {
-        CMyBitmap::ShowString(MARGIN, nTop, IsHeading(line) ? HEADING_COLOUR : TEXT_COLOUR, Cut(line).c_str(),
-                              nullptr, FONT_SIZE);
+        CMyBitmap::ShowString(nLeft + MARGIN, nTop, IsHeading(line) ? HEADING_COLOUR : TEXT_COLOUR,
+                              Cut(line).c_str(), nullptr, FONT_SIZE);
         nTop += LINE_HEIGHT;
     }
     // The control under the cursor is outlined where it is.
