@@ -51,11 +51,12 @@ protected:
         std::ofstream(Client(file), std::ios::binary | std::ios::app) << text;
     }
 
-    int Lint(const fs::path& dir) {
-        const std::string command = "env -u FLASHSIM_LIBRARY -u FLASHSIM_RES '" +
-                                    std::string(FLASHSIM_BINARY) + "' lint '" + dir.string() + "' >'" +
-                                    (m_dir / "out.txt").string() + "' 2>'" + (m_dir / "err.txt").string() +
-                                    "'";
+    int Lint(const fs::path& dir) { return Flashsim("lint '" + dir.string() + "'"); }
+    /// Runs the executable with these arguments, keeping its standard output and error.
+    int Flashsim(const std::string& args) {
+        const std::string command =
+            "env -u FLASHSIM_LIBRARY -u FLASHSIM_RES '" + std::string(FLASHSIM_BINARY) + "' " + args + " >'" +
+            (m_dir / "out.txt").string() + "' 2>'" + (m_dir / "err.txt").string() + "'";
         const int status = std::system(command.c_str());
         m_out = ReadText(m_dir / "out.txt");
         m_err = ReadText(m_dir / "err.txt");
@@ -171,6 +172,23 @@ TEST_F(FlashsimLintTest, InputThatCannotBeReadExitsTwo) {
     EXPECT_EQ(Lint(Client()), 2);
     EXPECT_EQ(m_err, "flashsim lint: ini/FlashString.ini: cannot be read\n");
     EXPECT_EQ(m_out, "");
+}
+
+TEST_F(FlashsimLintTest, ToolCommandLinesRefuseWhatTheyCannotUse) {
+    const std::pair<const char*, const char*> misuses[] = {
+        {"lint", "lint needs the client directory DIR"},
+        {"lint a b", "unexpected argument b"},
+        {"lint a --lang 1", "unknown option --lang"},
+        {"view --scene lobby", "--scene takes login or create"},
+        {"view --script", "--script needs a value"},
+    };
+    for (const auto& [szArgs, szWhy] : misuses) {
+        SCOPED_TRACE(szArgs);
+        EXPECT_EQ(Flashsim(szArgs), 2);
+        EXPECT_EQ(m_err.rfind(std::string("flashsim: ") + szWhy + "\n", 0), 0u) << m_err;
+    }
+    EXPECT_EQ(Flashsim("lint --help"), 0);
+    EXPECT_EQ(m_out.rfind("usage: flashsim lint DIR", 0), 0u) << m_out;
 }
 
 // A directory without its layout file, string table and server configuration still opens every screen.
