@@ -37,11 +37,11 @@ const std::vector<LintWalk>& LintWalks() {
               "click 1000 1002\nframe")},
         {"classic login",
          Walk("set VAR_PLAYLOGIN 0 1\nframe\nclick 1003 1013\nchar hero\nclick 1003 1014\nframe\n"
-              "set VAR_SHOWSOFTKB 1\nframe\nset VAR_SHOWSOFTKB 0\nclick 1003 1135\nframe\n"
-              "set SetQRKey https://127.0.0.1/qrlogin?key=3f9a2c71\nset SetQRCodeStatus 1\nframe\n"
-              "set SetQRCodeStatus 2\nframe\nclick 1003 1135\nframe\n"
+              "set VAR_SHOWSOFTKB 1\nframe\nset VAR_SHOWSOFTKB 0\n"
               "set VAR_QUICK_RECORD 3|1_1_1_Dragon$Dragon-1*1_1_3_Dragon$Dragon-3*1_2_1_Phoenix$Phoenix-1*\n"
               "click 1003 1001\nframe\nclick 1007 1019\nclick 1003 1018\nframe\nclick 1006 1019\n"
+              "click 1003 1135\nclick 1003 1135\nset SetQRKey https://127.0.0.1/qrlogin?key=3f9a2c71\n"
+              "set SetQRCodeStatus 1\nframe\nset SetQRCodeStatus 2\nframe\n"
               "call SetClassicTokenOnly true\nframe")},
         {"WeChat login and security token",
          Walk(

@@ -11,6 +11,8 @@
 #include <regex>
 #include <sstream>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -104,6 +106,31 @@ TEST_F(FlashsimLintTest, EachMissingResourceIsReportedUnderItsScreen) {
     EXPECT_EQ(Group("message box (language 0)"), "FlashGui.ini: no layout record [Dialog1005]\n") << m_out;
     EXPECT_NE(m_out.find("data/ui/hook.png: picture missing\n"), std::string::npos) << m_out;
     EXPECT_EQ(m_err, "flashsim lint: 5 findings\n");
+}
+
+// The walks open every screen of the login scene: without their dialogs' records, each is named under its
+// walk.
+TEST_F(FlashsimLintTest, EveryLoginSceneScreenIsOpened) {
+    const std::pair<const char*, std::vector<int>> screens[] = {
+        {"main login", {1013}},
+        {"message box", {1005}},
+        {"server selection", {1003, 1002, 1001, 1000}},
+        {"classic login", {1007, 1006}},
+        {"WeChat login and security token", {1011, 1015}},
+        {"QR login", {1021}},
+    };
+    for (const auto& [szScreen, dialogs] : screens)
+        for (int nDialog : dialogs) {
+            const std::string section = "[Dialog" + std::to_string(nDialog) + "]";
+            Replace("FlashGui.ini", section + "\n", "[Unused" + std::to_string(nDialog) + "]\n");
+        }
+    ASSERT_EQ(Lint(Client()), 1) << m_err;
+    for (const auto& [szScreen, dialogs] : screens) {
+        std::string expected;
+        for (int nDialog : dialogs)
+            expected += "FlashGui.ini: no layout record [Dialog" + std::to_string(nDialog) + "]\n";
+        EXPECT_EQ(Group(std::string(szScreen) + " (language 0)"), expected) << m_out;
+    }
 }
 
 // A language of its own layout file is walked with it; its findings name that file.
