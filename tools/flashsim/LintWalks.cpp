@@ -31,10 +31,10 @@ const std::vector<LintWalk>& LintWalks() {
         {"message box", Walk("set VAR_MAINPATH 1\nset SetLoginError Lint\nframe\nclick 1005 1001\nframe")},
         {"server selection",
          Walk("answer CMD_SELECTMODEL VAR_SERVER_AREA 2#Dragon|Phoenix|\n"
-              "set VAR_MAINPATH 1\nclick 1013 1021\nframe\nset VAR_PLAYLOGIN 0 1\nclick 1003 1021\nmove 200 "
-              "150\n"
-              "frame\nclick 1001 1008\nmove 700 150\nframe\nclick 1002 1089\nframe\nclick 1001 1089\nframe\n"
-              "click 1000 1002\nframe")},
+              "set VAR_MAINPATH 1\nclick 1013 1021\nframe\nset VAR_PLAYLOGIN 0 1\nclick 1003 1021\nframe\n"
+              "click 1002 1089\nset VAR_AREA_ACH_TIPS 1|1\nmove 200 150\nframe 10\nclick 1001 1008\n"
+              "move 700 150\nframe 10\nclick 1002 1089\nframe\nclick 1001 1089\nframe\nclick 1000 1002\n"
+              "frame")},
         {"classic login",
          Walk("set VAR_PLAYLOGIN 0 1\nframe\nclick 1003 1013\nchar hero\nclick 1003 1014\nframe\n"
               "set VAR_SHOWSOFTKB 1\nframe\nset VAR_SHOWSOFTKB 0\n"
