@@ -92,6 +92,9 @@ TEST_F(FlashsimLintTest, EachMissingResourceIsReportedUnderItsScreen) {
     Replace("FlashGui.ini", "[Dialog1005]\n", "[Dialog1005-unused]\n");
     Replace("ani/Control.ani", "[Common_Logo]", "[Common_Logo_Old]");
     Replace("ani/Control.ani", "Frame0=box 16 16 FF20A040 FFFFFFFF v", "Frame0=data/ui/hook.png");
+    Replace("ani/Control.ani", "Frame0=box 64 64 FF16324F FF16324F", "Frame0=data/ui/backdrop.png");
+    fs::create_directories(Client("data/ui"));
+    std::ofstream(Client("data/ui/backdrop.png"), std::ios::binary) << "not a picture";
     Append("FlashGui.ini", "\n[Dialog1001]\nRect = 1 2 3 4\n");
     ASSERT_EQ(Lint(Client()), 1) << m_err;
 
@@ -105,7 +108,8 @@ TEST_F(FlashsimLintTest, EachMissingResourceIsReportedUnderItsScreen) {
         << m_out;
     EXPECT_EQ(Group("message box (language 0)"), "FlashGui.ini: no layout record [Dialog1005]\n") << m_out;
     EXPECT_NE(m_out.find("data/ui/hook.png: picture missing\n"), std::string::npos) << m_out;
-    EXPECT_EQ(m_err, "flashsim lint: 5 findings\n");
+    EXPECT_NE(login.find("data/ui/backdrop.png: picture cannot be decoded: "), std::string::npos) << m_out;
+    EXPECT_EQ(m_err, "flashsim lint: 6 findings\n");
 }
 
 // The walks open every screen of the login scene: without their dialogs' records, each is named under its
