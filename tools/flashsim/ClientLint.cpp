@@ -27,7 +27,13 @@ constexpr const char* SERVER_CONFIGURATION = "server configuration";
 constexpr const char* MISSING_STRING_MARK = "NOSTR ";
 // Client files are small; a checker never reads more of one than this.
 constexpr std::uintmax_t MAX_CHECKED_FILE_BYTES = 64u * 1024u * 1024u;
-constexpr int MAX_LANGUAGE = 99;
+
+bool EqualNoCase(std::string_view a, std::string_view b) {
+    return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
+               return std::tolower(static_cast<unsigned char>(x)) ==
+                      std::tolower(static_cast<unsigned char>(y));
+           });
+}
 
 // The client's text files: what the library and the host libraries read.
 bool IsClientTextFile(const fs::path& path) {
@@ -104,8 +110,7 @@ std::optional<std::string> ClientLint::UnreadableInput() const {
         const std::string name = fs::relative(it->path(), m_options.clientDir, ec).generic_string();
         const auto bytes = ReadWhole(it->path());
         if (!bytes) return name + ": cannot be read";
-        const bool bStringTable = name == STRING_TABLE;
-        if (bStringTable && bytes->find('\0') != std::string::npos)
+        if (EqualNoCase(name, STRING_TABLE) && bytes->find('\0') != std::string::npos)
             return name + ": binary, not a string table (a NUL byte)";
     }
     return std::nullopt;
@@ -113,13 +118,13 @@ std::optional<std::string> ClientLint::UnreadableInput() const {
 
 std::vector<int> ClientLint::Languages() const {
     std::vector<int> languages{0};
+    // Language indices from 1 to 99: the layout file the library names for each.
     static const std::regex LANGUAGE_LAYOUT(R"(^flashgui_([1-9][0-9]?)\.ini$)", std::regex::icase);
     std::error_code ec;
     for (const auto& entry : fs::directory_iterator(m_options.clientDir, ec)) {
         std::smatch m;
         const std::string name = entry.path().filename().string();
-        if (std::regex_match(name, m, LANGUAGE_LAYOUT) && std::stoi(m[1].str()) <= MAX_LANGUAGE)
-            languages.push_back(std::stoi(m[1].str()));
+        if (std::regex_match(name, m, LANGUAGE_LAYOUT)) languages.push_back(std::stoi(m[1].str()));
     }
     std::sort(languages.begin(), languages.end());
     return languages;
