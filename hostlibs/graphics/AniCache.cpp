@@ -6,6 +6,7 @@
 #include "AniHandle.h"
 #include "ImageDecoder.h"
 #include "Log.h"
+#include "hostlibs/HostMisses.h"
 #include "text/ClientPath.h"
 #include "text/IniDocument.h"
 
@@ -88,7 +89,10 @@ AniHandle* AniCache::Resolve(std::string_view file, std::string_view title) {
     auto index = Index(file);
     if (!index) return nullptr;
     const AniTitle* found = index->Find(title);
-    if (!found) return nullptr;
+    if (!found) {
+        host::NoteMiss("animation", title, file);
+        return nullptr;
+    }
     auto handle = std::make_unique<AniHandle>(std::string(file), std::move(index), *found);
     std::lock_guard lock(m_mutex);
     return m_animations.emplace(key, std::move(handle)).first->second.get();

@@ -12,6 +12,7 @@
 #include "JpegDecoder.h"
 #include "Log.h"
 #include "PictureGuard.h"
+#include "hostlibs/HostMisses.h"
 #include "text/ClientPath.h"
 
 #define STB_IMAGE_STATIC
@@ -68,7 +69,10 @@ std::optional<Image> ImageDecoder::Decode(const std::vector<std::uint8_t>& origi
 
 std::optional<Image> ImageDecoder::DecodeClientFile(std::string_view name) {
     const std::string path = txt::ClientPath::Resolve(name);
-    if (path.empty()) return std::nullopt;
+    if (path.empty()) {
+        host::NoteMiss("picture", name);
+        return std::nullopt;
+    }
     std::string error;
     std::optional<Image> image;
     std::error_code code;

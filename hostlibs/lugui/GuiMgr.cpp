@@ -11,9 +11,10 @@
 #include "LuDialog.h"
 #include "LuEdit.h"
 #include "LuGui_internal.h"
-#include "WindowClip.h"
 #include "PostedMessages.h"
+#include "WindowClip.h"
 #include "hostlibs/HostEnv.h"
+#include "hostlibs/HostMisses.h"
 
 namespace LuGui {
 namespace {
@@ -88,8 +89,10 @@ bool CGuiMgr::RegisterDialog(CLuDialog* pDialog, int, int) {
     if (!pDialog) return false;
     host::Journal("gui.register", {{"id", std::to_string(pDialog->GetTemplateId())}});
     CLuToolkit::ClearForCreation(*pDialog);
-    CLuToolkit::Attach(*pDialog, this, nullptr, pDialog->GetTemplateId(),
-                       m_layout.Find(CLayoutFile::DialogSection(pDialog->GetTemplateId())));
+    const std::string section = CLayoutFile::DialogSection(pDialog->GetTemplateId());
+    const CLuLayoutRecord* pLayout = m_layout.Find(section);
+    if (!pLayout) host::NoteMiss("dialog-layout", section);
+    CLuToolkit::Attach(*pDialog, this, nullptr, pDialog->GetTemplateId(), pLayout);
     pDialog->CLuBaseWindow::ShowWindow(SW_HIDE);
     if (std::find(m_vecDialogs.begin(), m_vecDialogs.end(), pDialog) == m_vecDialogs.end())
         m_vecDialogs.push_back(pDialog);

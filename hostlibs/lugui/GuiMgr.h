@@ -50,6 +50,10 @@ public:
     CLuDialog* FindDialog(UINT nTemplateId) const;
     /// The process's live manager (the last one created), for the host's inspection.
     static CGuiMgr* Current();
+    /// The registered dialogs in drawing order, bottom first (for the host's inspection).
+    const std::vector<CLuDialog*>& DrawingOrder() const { return m_vecDialogs; }
+    /// The dialog that receives a press at a screen point, null when none (for the host's inspection).
+    CLuDialog* DialogUnder(POINT pt) const { return DialogAt(pt); }
 
 private:
     ~CGuiMgr();

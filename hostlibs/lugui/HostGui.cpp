@@ -5,6 +5,7 @@
 #include "LuCheck.h"
 #include "LuDialog.h"
 #include "LuEdit.h"
+#include "LuGui_internal.h"
 #include "LuList.h"
 #include "LuProgress.h"
 
@@ -89,6 +90,34 @@ bool DescribeControl(UINT nDialog, UINT nControl, WindowState& out) {
         out.curSel = pList->GetCurSel();
     }
     if (const auto* pProgress = dynamic_cast<const LuGui::CLuProgress*>(pCtrl)) out.pos = pProgress->GetPos();
+    return true;
+}
+
+std::vector<UINT> ListDialogs() {
+    std::vector<UINT> ids;
+    const LuGui::CGuiMgr* pMgr = LuGui::CGuiMgr::Current();
+    if (!pMgr) return ids;
+    const std::vector<LuGui::CLuDialog*>& order = pMgr->DrawingOrder();
+    for (auto it = order.rbegin(); it != order.rend(); ++it) ids.push_back((*it)->GetTemplateId());
+    return ids;
+}
+
+std::vector<UINT> ListControls(UINT nDialog) {
+    std::vector<UINT> ids;
+    if (const LuGui::CLuDialog* pDialog = FindDialog(nDialog))
+        for (const LuGui::CLuCtrl* pCtrl : LuGui::CLuToolkit::Controls(*pDialog))
+            ids.push_back(pCtrl->GetDlgCtrlID());
+    return ids;
+}
+
+bool WindowAt(int x, int y, UINT& nDialog, UINT& nControl) {
+    const LuGui::CGuiMgr* pMgr = LuGui::CGuiMgr::Current();
+    const POINT pt{x, y};
+    const LuGui::CLuDialog* pDialog = pMgr ? pMgr->DialogUnder(pt) : nullptr;
+    if (!pDialog) return false;
+    const LuGui::CLuCtrl* pCtrl = LuGui::CLuToolkit::ControlAt(*pDialog, pt, true);
+    nDialog = pDialog->GetTemplateId();
+    nControl = pCtrl ? pCtrl->GetDlgCtrlID() : 0;
     return true;
 }
 

@@ -14,6 +14,7 @@
 #include "LuGui_internal.h"
 #include "LuLayoutRecord.h"
 #include "WindowClip.h"
+#include "hostlibs/HostMisses.h"
 
 namespace LuGui {
 
@@ -22,8 +23,9 @@ void DDX_Control(CDataExchange* pDX, int nIDC, CLuCtrl& rControl) {
     if (!pDialog) return;
     ILuGuiMgr* pMgr = pDialog->GetGuiMgr();
     const UINT nId = static_cast<UINT>(nIDC);
-    const CLuLayoutRecord* pLayout =
-        pMgr ? pMgr->FindLayout(CLayoutFile::ControlSection(pDialog->GetTemplateId(), nId).c_str()) : nullptr;
+    const std::string section = CLayoutFile::ControlSection(pDialog->GetTemplateId(), nId);
+    const CLuLayoutRecord* pLayout = pMgr ? pMgr->FindLayout(section.c_str()) : nullptr;
+    if (!pLayout) host::NoteMiss("control-layout", section);
     // NOTE: controls are visible unless the layout hides them; dialogs start hidden.
     rControl.ShowWindow(SW_SHOW);
     CLuToolkit::Attach(rControl, pMgr, pDialog, nId, pLayout);

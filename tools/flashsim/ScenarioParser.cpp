@@ -42,11 +42,16 @@ bool ReadScenario(const std::string& path, std::vector<ScenarioStep>& steps) {
     int number = 0;
     while (std::getline(in, line)) {
         ++number;
-        if (!line.empty() && line.back() == '\r') line.pop_back();
-        if (line.empty() || line[0] == '#') continue;
-        steps.push_back(ScenarioStep{number, SplitWords(line), line});
+        if (auto step = ParseStepLine(std::move(line), number)) steps.push_back(std::move(*step));
     }
     return true;
+}
+
+std::optional<ScenarioStep> ParseStepLine(std::string line, int nLine) {
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    if (line.empty() || line[0] == '#') return std::nullopt;
+    std::vector<std::string> words = SplitWords(line);
+    return ScenarioStep{nLine, std::move(words), std::move(line)};
 }
 
 std::string UnescapeValue(std::string_view text) {

@@ -106,11 +106,20 @@ void ScenarioRunner::InstallLogSink() {
     });
 }
 
+bool ScenarioRunner::Start() {
+    if (m_library.Load(m_options.libraryPath)) return true;
+    m_transcript.Line("! error: " + m_library.Error());
+    return false;
+}
+
+IFlashSimulator* ScenarioRunner::Simulator() {
+    if (!m_pSim && m_library.Query) m_pSim = m_library.Query();
+    g_pAnsweringSim = m_pSim;
+    return m_pSim;
+}
+
 bool ScenarioRunner::Run(const std::vector<ScenarioStep>& steps) {
-    if (!m_library.Load(m_options.libraryPath)) {
-        m_transcript.Line("! error: " + m_library.Error());
-        return false;
-    }
+    if (!Start()) return false;
     for (const ScenarioStep& step : steps) Execute(step);
     return !m_bFailed;
 }

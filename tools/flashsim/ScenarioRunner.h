@@ -30,6 +30,20 @@ public:
     /// Runs every step; false when the library could not be loaded or a step was malformed.
     bool Run(const std::vector<ScenarioStep>& steps);
 
+    // ---- step by step (the live window and the client-directory check) ----
+    /// Loads the library (Run does it itself); false with the reason in the transcript.
+    bool Start();
+    /// Runs one step after Start.
+    void Step(const ScenarioStep& step) { Execute(step); }
+    /// Whether a step failed since the start.
+    bool Failed() const { return m_bFailed; }
+    /// The simulator as steps obtain it (FlashSimulatorQuery once); null until the library is loaded.
+    IFlashSimulator* Simulator();
+    /// Sends one window message as the game client's window does: PreTranslateMessage, then WindowProc.
+    void SendToWindow(UINT uMsg, WPARAM wParam, LPARAM lParam, bool bPreTranslate);
+    /// A mouse message at a screen point, with the cursor and button state updated first.
+    void SendMouse(UINT uMsg, int x, int y);
+
 private:
     void Execute(const ScenarioStep& step);
     /// Reports a malformed step in the transcript and on standard error, naming its line; the run fails.
@@ -65,11 +79,6 @@ private:
     void StepAwait(const ScenarioStep& step);
     /// One frame as the game client runs it: the clock moves on, then Process and Show.
     void RunFrame(DWORD dwMilliseconds);
-
-    /// Sends one window message as the game client's window does: PreTranslateMessage, then WindowProc.
-    void SendToWindow(UINT uMsg, WPARAM wParam, LPARAM lParam, bool bPreTranslate);
-    /// A mouse message at a screen point, with the cursor and button state updated first.
-    void SendMouse(UINT uMsg, int x, int y);
 
     void InstallLogSink();
     /// Prints each overflow of the frame not printed before: "! cut at ..." for what the clip cut at the

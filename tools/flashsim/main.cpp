@@ -11,6 +11,7 @@
 
 #include "HostPaths.h"
 #include "ScenarioRunner.h"
+#include "ToolCommands.h"
 #include "TranscriptCheck.h"
 
 namespace {
@@ -20,6 +21,7 @@ constexpr int EXIT_USAGE = 2;     // the command line or the scenario file could
 
 constexpr const char* USAGE =
     "usage: flashsim run|check FILE [--lib PATH] [--res DIR] [--out DIR] [--check-drawing]\n"
+    "       flashsim lint|view ... (flashsim lint --help)\n"
     "       flashsim --help\n"
     "  run    executes the scenario and prints its transcript\n"
     "  check  executes it and compares the transcript with FILE's .out file; log lines the .out file\n"
@@ -122,6 +124,7 @@ int CheckAgainstExpected(const std::string& scenarioPath, const Transcript& tran
 } // namespace
 
 int main(int argc, char** argv) {
+    if (IsToolCommand(argc, argv)) return RunToolCommand(argc, argv);
     std::string error;
     const std::optional<SCommandLine> cmd = ParseCommandLine(argc, argv, error);
     if (!cmd) return UsageError(error);

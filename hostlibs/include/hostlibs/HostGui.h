@@ -4,6 +4,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "BaseLib.h"
 
@@ -37,6 +38,14 @@ bool DescribeControl(UINT nDialog, UINT nControl, WindowState& out);
 /// Delivers a window message to dialog nDialog's WindowProc at once, as a message posted to that dialog
 /// reaches it (the keyboard picture's download posts 12135); false when there is no such dialog.
 bool SendDialogMessage(UINT nDialog, UINT uMsg, WPARAM wParam, LPARAM lParam);
+
+/// The template ids of the registered dialogs, top-most first (hidden ones included; DescribeDialog tells).
+std::vector<UINT> ListDialogs();
+/// The ids of the controls bound to dialog nDialog, in binding order; empty when there is no such dialog.
+std::vector<UINT> ListControls(UINT nDialog);
+/// The dialog and control a press at a screen point would reach (the control 0 when the dialog itself);
+/// false when no dialog takes it.
+bool WindowAt(int x, int y, UINT& nDialog, UINT& nControl);
 
 /// Blocks until a message posted to a window (CLuBaseWindow::PostMessageA, from any thread) waits for the
 /// dialog manager's next Process, or until the time is up; true when one waits. A host's message loop.
