@@ -155,6 +155,26 @@ const Glyph* FontRenderer::GetGlyph(char32_t c, int size) {
     return &m_glyphs.emplace(key, std::move(glyph)).first->second;
 }
 
+bool FontRenderer::CopyGlyph(char32_t c, int size, Glyph& out) {
+    if (!m_face) return false;
+    size = ClampSize(size);
+    {
+        std::lock_guard lock(m_mutex);
+        if (auto it = m_glyphs.find(std::make_pair(size, c)); it != m_glyphs.end()) {
+            out = it->second;
+            return true;
+        }
+    }
+    // NOTE: GetGlyph's pointer may be dropped by another thread's next call; the copy is taken under the
+    // lock again.
+    if (!GetGlyph(c, size)) return false;
+    std::lock_guard lock(m_mutex);
+    const auto it = m_glyphs.find(std::make_pair(size, c));
+    if (it == m_glyphs.end()) return false;
+    out = it->second;
+    return true;
+}
+
 int FontRenderer::Ascender(int size) const {
     size = ClampSize(size);
     return (size * m_ascentPerMille + PER_MILLE / 2) / PER_MILLE;

@@ -20,8 +20,8 @@ constexpr std::uint32_t STR_PASSWORD_TIP_OFFSET = 3000193;
 constexpr std::uint32_t STR_TOKEN_TIP_OFFSET = 8000019;
 constexpr std::uint32_t STR_RES_REGISTER_URL = 6124050;
 constexpr std::uint32_t STR_RES_EMBEDDED_BROWSER = 3001192;
-constexpr int WEB_REGISTER_LAYOUT = 7;
-constexpr int WEB_REGISTER_RESERVED = 1000;
+constexpr int WEB_REGISTER_KIND = 7;
+constexpr int WEB_REGISTER_LAYOUT = 1000;
 constexpr int LAST_LOGIN_READ = 255;
 constexpr std::size_t NAME_LIMIT = 255;
 constexpr int INI_READ = 1024;
@@ -365,7 +365,7 @@ void CDlgNewFlashLogin::OpenRegisterPage(bool bFromClick) {
                                               MyGameDataEnQuery()->GetRegisterArg())
                                 .substr(0, URL_LIMIT - 1);
     if (RoleDataQueryEx()->IsEmbeddedBrowser())
-        pContext->OpenWebRegisterPage(url.c_str(), WEB_REGISTER_LAYOUT, WEB_REGISTER_RESERVED);
+        pContext->OpenWebRegisterPage(WEB_REGISTER_KIND, WEB_REGISTER_LAYOUT, url.c_str());
     else if (!url.empty()) // a client without the address has no page to open
         ShellExecuteA(nullptr, "open", url.c_str(), nullptr, nullptr, SW_SHOW);
     pContext->SetRegisterOpen(bBrowserFolder);

@@ -127,8 +127,9 @@ public:
     virtual void ShowScreen(UINT nTemplateId, bool bShow) = 0;
     /// Opens a non-empty web address with the system's shell.
     virtual void OpenWebAddress(const char* szAddress) = 0;
-    /// Opens a page in the embedded registration browser.
-    virtual void OpenWebRegisterPage(const char* szUrl, int nLayoutId, int nReserved) = 0;
+    /// Opens a page of a kind (7: the embedded browser) and a layout record in the registration dialog and
+    /// shows it.
+    virtual void OpenWebRegisterPage(int nKind, int nLayoutId, const char* szUrl) = 0;
 
     // ---- events ----
     /// The listener must stay alive until RemoveListener or the simulator's end.

@@ -195,7 +195,7 @@ LRESULT CFlashSimulator::WindowProc(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM 
 
 std::int32_t CFlashSimulator::PreTranslateMessage(MSG* pMsg) {
     CDlgWebRegisterEn& page = m_pDialogs->m_dlgWebRegister;
-    return page.IsWindowVisible() ? page.PreTranslateMessage(pMsg) : 1;
+    return page.IsWindowVisible() ? page.PreTranslateHostMessage(pMsg) : 1;
 }
 
 bool CFlashSimulator::IsWebRegisterVisible() {
@@ -462,8 +462,9 @@ void CFlashSimulator::ShowScreen(UINT nTemplateId, bool bShow) {
     if (CSimDialog* pDialog = m_pDialogs->Find(nTemplateId)) pDialog->ShowWindow(bShow ? SW_SHOW : SW_HIDE);
 }
 
-void CFlashSimulator::OpenWebRegisterPage(const char* szUrl, int nLayoutId, int nReserved) {
-    m_pDialogs->m_dlgWebRegister.OpenPage(szUrl, nLayoutId, nReserved);
+void CFlashSimulator::OpenWebRegisterPage(int nKind, int nLayoutId, const char* szUrl) {
+    m_pDialogs->m_dlgWebRegister.OpenPage(nKind, nLayoutId, szUrl);
+    m_pDialogs->m_dlgWebRegister.ShowWindow(SW_SHOW);
 }
 
 void CFlashSimulator::AddListener(IScreenListener* pListener) {

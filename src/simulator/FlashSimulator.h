@@ -114,7 +114,7 @@ public:
     void ShowMessageBox(int nKind, const char* szText) override;
     void ShowScreen(UINT nTemplateId, bool bShow) override;
     void OpenWebAddress(const char* szAddress) override;
-    void OpenWebRegisterPage(const char* szUrl, int nLayoutId, int nReserved) override;
+    void OpenWebRegisterPage(int nKind, int nLayoutId, const char* szUrl) override;
     void AddListener(IScreenListener* pListener) override;
     void RemoveListener(IScreenListener* pListener) override;
 

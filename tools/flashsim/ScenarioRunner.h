@@ -59,6 +59,10 @@ private:
     void StepSend(const ScenarioStep& step);
     void StepAnswer(const ScenarioStep& step);
     void StepScratch(const ScenarioStep& step);
+    // Window messages as a host forwards them, and the browser library's side (BrowserSteps.cpp).
+    void StepMsg(const ScenarioStep& step);
+    void StepIme(const ScenarioStep& step);
+    void StepBrowser(const ScenarioStep& step);
 
     /// Sends one window message as the game client's window does: PreTranslateMessage, then WindowProc.
     void SendToWindow(UINT uMsg, WPARAM wParam, LPARAM lParam, bool bPreTranslate);

@@ -210,12 +210,14 @@ TEST_F(MainLoginTest, AccountCreationPageOpensEmbeddedOnceWhileLocked) {
     host::SetData("strres.6124050", "https://example.com/register?from={}");
     host::SetData("strres.3001192", "1");
     host::SetData("gamedata.registerarg", "7");
+    host::SetData("layout.1000", "0 0 800 600");
     Start();
     TakeCommands();
     Press(CDlgNewFlashLogin::IDC_CREATE_LINK);
-    EXPECT_EQ(TakeCommands(), std::vector<std::string>{"BURYING_POINT 117"});
+    // The dialog shows before the click's usage event.
+    EXPECT_EQ(TakeCommands(), (std::vector<std::string>{"CLEAR_KEY_INPUT 0", "BURYING_POINT 117"}));
     EXPECT_TRUE(m_sim->Dialogs().m_dlgWebRegister.IsWindowVisible());
-    EXPECT_STREQ(m_sim->Dialogs().m_dlgWebRegister.GetPageUrl(), "https://example.com/register?from=7");
+    EXPECT_EQ(m_sim->Dialogs().m_webBrowser.GetUrl(), "https://example.com/register?from=7");
     EXPECT_TRUE(m_sim->IsRegisterOpen());
     Press(CDlgNewFlashLogin::IDC_CREATE_LINK); // locked: nothing
     EXPECT_TRUE(TakeCommands().empty());
