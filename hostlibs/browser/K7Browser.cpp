@@ -84,7 +84,8 @@ host::BrowserEngineFactory EngineFactory(const std::string& name) {
 K7BROWSER K7Browser_Browser_Create(HWND, const char* szUrl, int x, int y, int nWidth, int nHeight,
                                    IK7JSListener* pListener, int nFlags, int nMode) {
     const std::string url = szUrl ? szUrl : "";
-    const std::string engine = host::GetData("browser.engine", DEFAULT_ENGINE);
+    std::string engine = host::GetData("browser.engine");
+    if (engine.empty()) engine = DEFAULT_ENGINE;
     K7BROWSER hPage = nullptr;
     const bool bSizeOk = nWidth > 0 && nHeight > 0 && nWidth <= MAX_PAGE_SIDE && nHeight <= MAX_PAGE_SIDE;
     if (engine != NO_ENGINE && bSizeOk && !url.empty() && pListener) {

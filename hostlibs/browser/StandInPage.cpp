@@ -276,7 +276,8 @@ bool CStandInPage::BeginFrame(void* pBGRA, std::vector<RECT>& rects) {
     WaitIdle(lock);
     if (host::GetDataInt("browser.noframe", 0)) return false;
     AddHostDirtyRects();
-    if (m_vecRepainted.empty()) return false;
+    // A frame without repainted parts still ends with the callbacks that are due.
+    if (m_vecRepainted.empty() && !m_bLoadEndDue && !m_bRegisterDue) return false;
     auto* pOut = static_cast<std::uint8_t*>(pBGRA);
     const RECT rcPage{0, 0, m_nWidth, m_nHeight};
     for (const RECT& dirty : m_vecRepainted) {

@@ -83,6 +83,8 @@ bool CDlgWebRegisterEn::PlaceAroundPage(int nLayoutId) {
     } else {
         const auto read = textscan::ReadInts(szFrame, numbers.size());
         std::copy(read.begin(), read.end(), numbers.begin());
+        if (read.empty())
+            LogMsg("web register: text %u holds no numbers, the frame keeps its defaults", ROLETEXT_FRAME);
     }
     const long long width =
         static_cast<long long>(rcRecord.right) - rcRecord.left + numbers[FRAME_EXTRA_WIDTH];
