@@ -80,11 +80,12 @@ public:
     /// The ids of a group's servers by index; empty when the host gave none (the id is then the number).
     const std::vector<std::int32_t>& ServerIds(int nGroup) {
         auto [it, inserted] = m_serverIds.try_emplace(nGroup);
-        if (inserted)
-            for (std::string_view part : SplitList(host::GetData("en.serverids." + std::to_string(nGroup)))) {
-                std::int32_t id = 0;
-                it->second.push_back(ReadInt(part, id) ? id : INT32_MIN);
-            }
+        if (!inserted) return it->second;
+        const std::string text = host::GetData("en.serverids." + std::to_string(nGroup));
+        for (std::string_view part : SplitList(text)) {
+            std::int32_t id = 0;
+            it->second.push_back(ReadInt(part, id) ? id : INT32_MIN);
+        }
         return it->second;
     }
 

@@ -249,6 +249,16 @@ void CDlgNewFlashLogin::UpdateServerLabel() {
     pContext->NotifyHostIndex("CMD_SELECTSERVER", pContext->GetCurServer());
 }
 
+void CDlgNewFlashLogin::ShowChosenServer(int nGroup, int nServer) {
+    IScreenContext* pContext = ScreenContext();
+    if (!pContext) return;
+    m_nChosenGroup = nGroup;
+    const char* szGroup = pContext->GetGroupName(nGroup);
+    const char* szServer = pContext->GetServerName(nGroup, nServer);
+    m_staServerLabel.SetWindowTextA(Label(szGroup ? szGroup : "", szServer ? szServer : "").c_str());
+    PlaceLoadPicture(pContext->GetServerLoadOf(nGroup, nServer), false);
+}
+
 void CDlgNewFlashLogin::PlaceLoadPicture(float fLoad, bool bWithBonus) {
     // The bonus table and thresholds are the server dialog's, with this screen's own pictures.
     float f = fLoad;

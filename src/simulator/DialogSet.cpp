@@ -6,6 +6,7 @@
 
 // The classic login opens the quick-entry editor by its template id, since screens do not know each other.
 static_assert(CDlgFlashLogin::IDD_QUICK_ENTRY_EDITOR == CDlgAddQuickEntry::IDD);
+static_assert(CDlgFlashLoginEn::IDD_ROLE_LIST == CDlgFlashCharacterEn::IDD);
 
 CDialogSet::CDialogSet() {
     // The registration dialog hosts the simulator's one browser, a member declared after it.
