@@ -130,7 +130,7 @@ private:
 };
 
 bool IsKnownAccount(std::int64_t nAccount) {
-    return host::HasData("en.account") && nAccount == host::GetDataInt("en.account", 0);
+    return !host::GetData("en.account").empty() && nAccount == host::GetDataInt("en.account", 0);
 }
 
 class CGameLogic final : public IGameLogic {
