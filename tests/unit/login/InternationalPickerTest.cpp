@@ -59,6 +59,28 @@ TEST_F(InternationalPickerTest, CloseAfterStartUsesTheRememberedSelectionOnly) {
     EXPECT_TRUE(TakeCommands().empty());
 }
 
+TEST_F(InternationalPickerTest, ZonesOfNoneToTenThousandServersPageWithoutGaps) {
+    Create(0, "8000166=%d/%d\n");
+    Picker().ShowWindow(SW_SHOW); // no groups: "Mine" with nothing in it
+    TakeCommands();
+    Picker().SelectZone(0);
+    EXPECT_EQ(TakeCommands(), std::vector<std::string>{"BURYING_POINT 113"}) << "an absent zone stops there";
+    std::string names;
+    for (int i = 0; i < 10000; ++i) names += "S" + std::to_string(i) + "|";
+    Set("VAR_SERVER_AREA", "1#Big|");
+    Set("VAR_SERVER_NAME", ("10000#" + names).c_str());
+    Picker().SelectZone(0);
+    EXPECT_EQ(Picker().GetPageCount(), 1000);
+    for (int i = 0; i < 999; ++i) Picker().WindowProc(WM_COMMAND, CDlgFlashLoginEn::IDC_NEXT, 0);
+    EXPECT_EQ(Picker().GetPage(), 1000);
+    TakeCommands();
+    Picker().SelectServerRow(9);
+    EXPECT_EQ(TakeCommands(), (std::vector<std::string>{"BURYING_POINT 114", "CMD_SELECTSERVER 10000",
+                                                        "CMD_SELECTGROUP 1", "CMD_SELECTSERVER 10000"}));
+    Picker().WindowProc(WM_COMMAND, CDlgFlashLoginEn::IDC_NEXT, 0); // past the last page: nothing
+    EXPECT_EQ(Picker().GetPage(), 1000);
+}
+
 TEST(RoleRowTexts, NamesKeepWellFormedUtf8AndMarkEveryBadByte) {
     EXPECT_EQ(SRoleRowTexts::ToCodePage("Hero"), "Hero");
     EXPECT_EQ(SRoleRowTexts::ToCodePage("\xE5\x8B\x87\xE8\x80\x85"), "\xE5\x8B\x87\xE8\x80\x85");
