@@ -6,6 +6,7 @@
 #include "login/DlgNewFlashLogin.h"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 
 #include "login/DlgFlashLoginEn.h"
@@ -301,6 +302,11 @@ void CDlgNewFlashLogin::ShowDeleteMark() {
 void CDlgNewFlashLogin::Reset() {
     CSimDialog::Reset();
     RefreshTexts();
+    // NOTE: after a language change the toolkit's layout holds the new language's values.
+    m_btnReload.ReloadLayout();
+    for (LuGui::CLuBaseWindow* pWnd : std::array<LuGui::CLuBaseWindow*, 5>{
+             &m_btnLanguage, &m_btnSelectLink, &m_btnAccountList, &m_btnPasswordHelp, &m_btnTokenHelp})
+        pWnd->PreInitData_Tip();
 }
 
 // ---- messages ------------------------------------------------------------------------------------

@@ -304,3 +304,22 @@ TEST_F(MainLoginTest, ActivationAndAttentionMessages) {
 }
 
 } // namespace
+
+TEST_F(MainLoginTest, ResetReadsTheFiveTipsAndTheReloadButtonFromTheLayoutAgain) {
+    m_dir.Write("FlashGui.ini", std::string(LAYOUT) + "[Dialog1013.1004]\nTip = Language\n"
+                                                      "[Dialog1013.1006]\nTip = Token help\n"
+                                                      "[Dialog1013.1002]\nRect = 400 10 40 20\nText = R\n");
+    Start();
+    LuGui::CLuCtrl& button = *Login().GetControl(CDlgNewFlashLogin::IDC_LANGUAGE_BUTTON);
+    LuGui::CLuCtrl& help = *Login().GetControl(CDlgNewFlashLogin::IDC_TOKEN_HELP);
+    LuGui::CLuCtrl& reload = *Login().GetControl(CDlgNewFlashLogin::IDC_RELOAD);
+    button.SetTipText("stale");
+    help.SetTipText("stale");
+    reload.MoveWindow(0, 0, 1, 1);
+    reload.SetWindowTextA("stale");
+    Login().Reset();
+    EXPECT_STREQ(button.GetTipText(), "Language");
+    EXPECT_STREQ(help.GetTipText(), "Token help");
+    EXPECT_EQ(reload.GetWidth(), 40);
+    EXPECT_STREQ(reload.GetWindowTextA(), "R");
+}
