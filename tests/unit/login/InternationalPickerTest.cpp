@@ -81,6 +81,27 @@ TEST_F(InternationalPickerTest, ZonesOfNoneToTenThousandServersPageWithoutGaps) 
     EXPECT_EQ(Picker().GetPage(), 1000);
 }
 
+TEST_F(InternationalPickerTest, NewServerSearchSeesTenRowsAndOtherwiseLeavesTheLastZoneTried) {
+    std::string names;
+    for (int i = 0; i < 12; ++i) names += "N" + std::to_string(i) + "|";
+    host::SetData("newservers", "N10|B2");
+    Create(0, "");
+    Set("VAR_SERVER_AREA", "2#A|B|");
+    Set("VAR_SERVER_NAME", ("12#" + names).c_str());
+    Set("VAR_SERVER_NAME", "3#B1|B2|B3|");
+    TakeCommands();
+    Picker().ShowWindow(SW_SHOW);
+    EXPECT_EQ(TakeCommands()[0], "BURYING_POINT 113") << "B2 found in zone 1 (N10 lies past row 9)";
+    EXPECT_EQ(Picker().GetZone(), 1);
+    Picker().ShowWindow(SW_HIDE);
+    host::SetData("newservers", "N10");
+    m_sim->StoreCurGroup(0);
+    Picker().ShowWindow(SW_SHOW);
+    EXPECT_EQ(m_sim->GetCurGroup(), 1) << "nothing found: the group stays at the last zone tried";
+    EXPECT_TRUE(Picker().IsMineMode());
+    host::SetData("newservers", "");
+}
+
 TEST(RoleRowTexts, NamesKeepWellFormedUtf8AndMarkEveryBadByte) {
     EXPECT_EQ(SRoleRowTexts::ToCodePage("Hero"), "Hero");
     EXPECT_EQ(SRoleRowTexts::ToCodePage("\xE5\x8B\x87\xE8\x80\x85"), "\xE5\x8B\x87\xE8\x80\x85");
