@@ -9,6 +9,7 @@
 #include "hostlibs/HostEnv.h"
 #include "login/DlgFlashLoginEn.h"
 #include "platform/GameLogic.h"
+#include "rolecreate/DlgFlashCharacterEn.h"
 #include "screen/RoleRowTexts.h"
 
 namespace {
@@ -100,6 +101,36 @@ TEST_F(InternationalPickerTest, NewServerSearchSeesTenRowsAndOtherwiseLeavesTheL
     EXPECT_EQ(m_sim->GetCurGroup(), 1) << "nothing found: the group stays at the last zone tried";
     EXPECT_TRUE(Picker().IsMineMode());
     host::SetData("newservers", "");
+}
+
+TEST_F(InternationalPickerTest, RoleListLabelsAndLoadsTheCurrentGroupsServerAndShowsTenRoles) {
+    Start("8000169=%s / %s\n3110018=-\n", nullptr);
+    Set("VAR_SERVERSTATUS", "1#1_450_1000_1|2_720_1000_1|3_0_1000_0|");
+    m_sim->StoreCurGroup(0);
+    std::string roles;
+    for (int i = 0; i < 12; ++i) roles += "1:1:1:1:1:R" + std::to_string(i) + "|";
+    host::SetData("en.account", "5");
+    host::SetData("en.roles", roles);
+    CDlgFlashCharacterEn& list = m_sim->Dialogs().m_dlgCharacterEn;
+    const auto loadOf = [&](int nServer) {
+        list.SetGroupServer(0, nServer);
+        return std::string(list.GetControl(CDlgFlashCharacterEn::IDC_LOAD)->GetBackGroundAni());
+    };
+    EXPECT_EQ(loadOf(0), "NewLogin_serMediumPic") << "45 % shows as 65";
+    EXPECT_EQ(loadOf(1), "NewLogin_serfullPic") << "72 % shows as 77";
+    EXPECT_EQ(loadOf(2), "NewLogin_serMaintenancePic") << "state 0: maintenance";
+    list.SetGroupServer(7, 1);
+    EXPECT_STREQ(list.GetControl(CDlgFlashCharacterEn::IDC_LABEL)->GetWindowTextA(), "- / A2");
+    EXPECT_EQ(std::string(list.GetControl(CDlgFlashCharacterEn::IDC_LOAD)->GetBackGroundAni()),
+              "NewLogin_serfullPic")
+        << "the load is still the current group's";
+    list.SetGroupServer(0, 0);
+    m_sim->ShowServerRoleList(0, 0);
+    for (int i = 0; i < CDlgFlashCharacterEn::ROWS; ++i)
+        EXPECT_STREQ(list.GetControl(CDlgFlashCharacterEn::IDC_ROW_NAME + i)->GetWindowTextA(),
+                     ("R" + std::to_string(i)).c_str());
+    host::SetData("en.account", "");
+    host::SetData("en.roles", "");
 }
 
 TEST(RoleRowTexts, NamesKeepWellFormedUtf8AndMarkEveryBadByte) {
