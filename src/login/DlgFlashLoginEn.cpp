@@ -51,7 +51,7 @@ constexpr const char* EVENT_ZONE = "113";
 constexpr const char* EVENT_SERVER = "114";
 constexpr const char* CMD_SELECTGROUP = "CMD_SELECTGROUP";
 
-// Roles a page shows and the slots with "More" from one more.
+// "More" appears from this many roles on the server: one more than the slots hold.
 constexpr int ROLES_FOR_MORE = 5;
 constexpr std::size_t LAST_LOGIN_READ = 255;
 constexpr std::size_t LAST_LOGIN_TEXT_LIMIT = 128;
