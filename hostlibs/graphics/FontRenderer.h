@@ -61,6 +61,8 @@ private:
     bool OpenFace(const char* path);
     bool UseFace(::FT_FaceRec_* face);
     bool SelectSize(int size);
+    /// Renders c at that size into glyph; the caller holds m_mutex.
+    bool RenderGlyph(char32_t c, int size, Glyph& glyph);
 
     ::FT_LibraryRec_* m_library = nullptr;
     ::FT_FaceRec_* m_face = nullptr;
