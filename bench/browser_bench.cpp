@@ -77,7 +77,7 @@ RECT DirtyOf(const benchmark::State& state) {
 
 void BM_DrawDirtyRect(benchmark::State& state) {
     const RECT rc = DirtyOf(state);
-    host::RegisterBrowserEngine("fixed", [rc](const host::BrowserPageSpec&) {
+    host::RegisterBrowserEngine("fixed", [rc](const host::BrowserPageParams&) {
         return std::unique_ptr<host::IBrowserEngineView>(std::make_unique<CFixedDirtyView>(rc));
     });
     Fixture f("fixed");

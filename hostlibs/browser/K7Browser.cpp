@@ -72,8 +72,8 @@ host::BrowserEngineFactory EngineFactory(const std::string& name) {
     SLibrary& lib = Library();
     std::lock_guard lock(lib.mutex);
     if (lib.engines.empty())
-        lib.engines[DEFAULT_ENGINE] = [](const host::BrowserPageSpec& spec) {
-            return std::unique_ptr<host::IBrowserEngineView>(std::make_unique<CStandInPage>(spec));
+        lib.engines[DEFAULT_ENGINE] = [](const host::BrowserPageParams& params) {
+            return std::unique_ptr<host::IBrowserEngineView>(std::make_unique<CStandInPage>(params));
         };
     const auto it = lib.engines.find(name);
     return it == lib.engines.end() ? host::BrowserEngineFactory{} : it->second;
@@ -90,7 +90,7 @@ K7BROWSER K7Browser_Browser_Create(HWND, const char* szUrl, int x, int y, int nW
     const bool bSizeOk = nWidth > 0 && nHeight > 0 && nWidth <= MAX_PAGE_SIDE && nHeight <= MAX_PAGE_SIDE;
     if (engine != NO_ENGINE && bSizeOk && !url.empty() && pListener) {
         if (const host::BrowserEngineFactory factory = EngineFactory(engine)) {
-            auto view = factory(host::BrowserPageSpec{url, x, y, nWidth, nHeight});
+            auto view = factory(host::BrowserPageParams{url, x, y, nWidth, nHeight});
             if (view) {
                 hPage = new SK7BrowserPage;
                 hPage->view = std::move(view);

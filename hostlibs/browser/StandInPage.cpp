@@ -117,9 +117,9 @@ private:
 
 } // namespace
 
-CStandInPage::CStandInPage(const host::BrowserPageSpec& spec)
-    : m_nX(spec.x), m_nY(spec.y), m_nWidth(spec.width), m_nHeight(spec.height), m_strUrl(spec.url),
-      m_pixels(static_cast<std::size_t>(spec.width) * spec.height * 4, 0) {
+CStandInPage::CStandInPage(const host::BrowserPageParams& params)
+    : m_nX(params.x), m_nY(params.y), m_nWidth(params.width), m_nHeight(params.height), m_strUrl(params.url),
+      m_pixels(static_cast<std::size_t>(params.width) * params.height * 4, 0) {
     m_thread = std::thread(&CStandInPage::RenderLoop, this);
     Schedule(EPaint::All);
 }

@@ -14,7 +14,7 @@
 
 class CStandInPage final : public host::IBrowserEngineView {
 public:
-    explicit CStandInPage(const host::BrowserPageSpec& spec);
+    explicit CStandInPage(const host::BrowserPageParams& params);
     ~CStandInPage() override;
     CStandInPage(const CStandInPage&) = delete;
     CStandInPage& operator=(const CStandInPage&) = delete;

@@ -42,13 +42,13 @@ public:
 };
 
 /// The page parameters an engine gets.
-struct BrowserPageSpec {
+struct BrowserPageParams {
     std::string url;
     int x = 0, y = 0, width = 0, height = 0;
 };
 
 /// Makes a view for a page; null declines the page.
-using BrowserEngineFactory = std::function<std::unique_ptr<IBrowserEngineView>(const BrowserPageSpec&)>;
+using BrowserEngineFactory = std::function<std::unique_ptr<IBrowserEngineView>(const BrowserPageParams&)>;
 
 /// Adds or replaces an engine by name; host data `browser.engine` picks one (default "standin", "none"
 /// declines every page).
