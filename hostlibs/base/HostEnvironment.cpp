@@ -51,7 +51,15 @@ void GetScreenSize(int& nWidth, int& nHeight) {
 
 void SetData(const std::string& key, const std::string& value) {
     std::lock_guard lock(Env().mutex);
-    Env().data[key] = value;
+    std::string& stored = Env().data[key];
+    if (stored == value && !value.empty()) return;
+    stored = value;
+    ++Env().dataVersion;
+}
+
+std::uint64_t DataVersion() {
+    std::lock_guard lock(Env().mutex);
+    return Env().dataVersion;
 }
 
 std::string GetData(const std::string& key, const std::string& fallback) {
@@ -80,6 +88,7 @@ void ResetForTest() {
         Env().screenWidth = 1024;
         Env().screenHeight = 768;
         Env().data.clear();
+        ++Env().dataVersion;
         Env().cursor = 0;
         std::fill(std::begin(Env().keysDown), std::end(Env().keysDown), std::uint8_t{0});
     }

@@ -20,6 +20,7 @@ struct Environment {
     int screenWidth = 1024;
     int screenHeight = 768;
     std::map<std::string, std::string> data;
+    std::uint64_t dataVersion = 0;
     std::atomic<std::uint64_t> cursor{
         0}; ///< x in the low 32 bits, y in the high ones: read by every control each frame
     std::uint8_t keysDown[256] = {}; // one flag per virtual key

@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <string>
 
+#include "BaseLib.h"
 #include "GameData.h"
 #include "hostlibs/HostEnv.h"
 
@@ -30,6 +31,10 @@ public:
         host::Journal("gamedata.setting", {{"key", key}, {"value", std::to_string(nValue)}});
     }
     bool IsInputFlagSet() override { return host::GetDataInt("gamedata.inputflag", 0) != 0; }
+    void SetWebPageSwitch(int nOn) override {
+        host::SetData("gamedata.webswitch", std::to_string(nOn));
+        host::Journal("gamedata.webswitch", {{"value", std::to_string(nOn)}});
+    }
 };
 
 class CRoleDataEx final : public IRoleDataEx {
@@ -41,7 +46,10 @@ public:
     bool IsEnglishOnly() override { return host::GetDataInt("englishonly", 0) != 0; }
     const char* MapFontName(const char* szFont) override { return szFont ? szFont : ""; }
     const char* GetStrRes(std::uint32_t nId) override {
-        m_strRes = host::GetData("strres." + std::to_string(nId));
+        // NOTE: the embedded-browser switch is on in a client that ships the browser, as the sample does.
+        constexpr std::uint32_t EMBEDDED_BROWSER_SWITCH = 3001192;
+        const std::string key = "strres." + std::to_string(nId);
+        m_strRes = host::GetData(key, nId == EMBEDDED_BROWSER_SWITCH ? "1" : "");
         return m_strRes.c_str();
     }
     bool IsNewServer(const char* szServerName) override {
@@ -53,10 +61,16 @@ public:
     bool IsEmbeddedBrowser() override { return m_bEmbeddedBrowser; }
     bool IsQRLoginEnabled() override { return host::GetDataInt("gamedata.qrlogin", 0) != 0; }
     bool IsWeChatLoginEnabled() override { return host::GetDataInt("gamedata.wechat", 0) != 0; }
+    const char* GetRoleText(std::uint32_t nId) override {
+        m_strRoleText = host::GetData("roletext." + std::to_string(nId));
+        return m_strRoleText.c_str();
+    }
+    std::int64_t GetAccountValue() override { return host::GetDataInt("en.account", 0); }
 
 private:
     std::string m_strLanguage;
     std::string m_strRes;
+    std::string m_strRoleText;
     bool m_bEmbeddedBrowser = true;
 };
 
@@ -65,12 +79,25 @@ public:
     int GetRegisterArg() override { return host::GetDataInt("gamedata.registerarg", 0); }
 };
 class CMyGameData final : public IMyGameData {
+    static constexpr const char* RECORD_FILE = "ini/GameData.ini";
+    static constexpr const char* RECORD_SECTION = "WindowRecord";
+    static constexpr std::size_t RECORD_TEXT_LIMIT = 64;
+
 public:
     bool GetWindowRecord(int nId, RECT& rcOut) override {
         const std::string key = "layout." + std::to_string(nId);
-        if (!host::HasData(key)) return false;
+        std::string text;
+        if (host::HasData(key)) {
+            text = host::GetData(key);
+        } else {
+            // The client directory's own records, below what the host sets.
+            char buffer[RECORD_TEXT_LIMIT] = {};
+            MyGetPrivateProfileString(RECORD_SECTION, std::to_string(nId).c_str(), "", buffer, sizeof buffer,
+                                      RECORD_FILE);
+            text = buffer;
+        }
+        if (text.empty()) return false;
         int values[4] = {0, 0, 0, 0};
-        const std::string text = host::GetData(key);
         if (std::sscanf(text.c_str(), "%d %d %d %d", &values[0], &values[1], &values[2], &values[3]) != 4)
             return false;
         const auto add = [](long long a, long long b) {

@@ -3,6 +3,8 @@
 #include "BitmapObject.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <cstring>
 
 #include "GraphicsState.h"
 #include "ImageDecoder.h"
@@ -10,6 +12,18 @@
 namespace gfx {
 namespace {
 constexpr int BYTES_PER_PIXEL = 4;
+
+// One row from BGRA to RGBA: each pixel as one 32-bit word with its first and third bytes exchanged, which
+// the compiler turns into vector shuffles (a copy runs close to memcpy's speed).
+__attribute__((target_clones("avx2", "default"))) void
+SwapRedBlue(const std::uint8_t* __restrict from, std::uint8_t* __restrict to, std::size_t nPixels) {
+    for (std::size_t i = 0; i < nPixels; ++i) {
+        std::uint32_t v;
+        std::memcpy(&v, from + i * BYTES_PER_PIXEL, sizeof v);
+        v = (v & 0xFF00FF00u) | ((v >> 16) & 0xFFu) | ((v & 0xFFu) << 16);
+        std::memcpy(to + i * BYTES_PER_PIXEL, &v, sizeof v);
+    }
+}
 
 // The opacity a colour argument asks for: 0 means unchanged.
 int OpacityOf(DWORD colour) {
@@ -36,18 +50,15 @@ void BitmapObject::UpdatePixels(const void* pBGRA, int nSrcWidth, int nSrcHeight
     const Rect region = Rect::FromRECT(rcRegion)
                             .Intersect({0, 0, nSrcWidth, nSrcHeight})
                             .Intersect({0, 0, m_image.width, m_image.height});
+    if (region.Right() <= region.x || region.Bottom() <= region.y) return;
     const auto* source = static_cast<const std::uint8_t*>(pBGRA);
+    const std::size_t rowPixels = static_cast<std::size_t>(region.Right() - region.x);
     for (int y = region.y; y < region.Bottom(); ++y) {
-        for (int x = region.x; x < region.Right(); ++x) {
-            const std::uint8_t* from =
-                source + (static_cast<std::size_t>(y) * nSrcWidth + x) * BYTES_PER_PIXEL;
-            std::uint8_t* to =
-                &m_image.rgba[(static_cast<std::size_t>(y) * m_image.width + x) * BYTES_PER_PIXEL];
-            to[0] = from[2];
-            to[1] = from[1];
-            to[2] = from[0];
-            to[3] = from[3];
-        }
+        const std::uint8_t* from =
+            source + (static_cast<std::size_t>(y) * nSrcWidth + region.x) * BYTES_PER_PIXEL;
+        std::uint8_t* to =
+            &m_image.rgba[(static_cast<std::size_t>(y) * m_image.width + region.x) * BYTES_PER_PIXEL];
+        SwapRedBlue(from, to, rowPixels);
     }
 }
 

@@ -137,9 +137,27 @@ const Glyph* FontRenderer::GetGlyph(char32_t c, int size) {
     const auto key = std::make_pair(size, c);
     if (auto it = m_glyphs.find(key); it != m_glyphs.end()) return &it->second;
     if (m_glyphs.size() >= MAX_CACHED_GLYPHS) m_glyphs.clear();
-    if (!SelectSize(size) || FT_Load_Char(m_face, c, FT_LOAD_RENDER) != 0) return nullptr;
-    const FT_GlyphSlot slot = m_face->glyph;
     Glyph glyph;
+    if (!RenderGlyph(c, size, glyph)) return nullptr;
+    return &m_glyphs.emplace(key, std::move(glyph)).first->second;
+}
+
+bool FontRenderer::CopyGlyph(char32_t c, int size, Glyph& out) {
+    if (!m_face) return false;
+    size = ClampSize(size);
+    std::lock_guard lock(m_mutex);
+    if (auto it = m_glyphs.find(std::make_pair(size, c)); it != m_glyphs.end()) {
+        out = it->second;
+        return true;
+    }
+    // NOTE: rendered without entering the cache: another thread may hold a pointer that GetGlyph handed out,
+    // which a cache cleared for room would leave dangling.
+    return RenderGlyph(c, size, out);
+}
+
+bool FontRenderer::RenderGlyph(char32_t c, int size, Glyph& glyph) {
+    if (!SelectSize(size) || FT_Load_Char(m_face, c, FT_LOAD_RENDER) != 0) return false;
+    const FT_GlyphSlot slot = m_face->glyph;
     glyph.width = static_cast<int>(slot->bitmap.width);
     glyph.rows = static_cast<int>(slot->bitmap.rows);
     glyph.left = slot->bitmap_left;
@@ -152,7 +170,7 @@ const Glyph* FontRenderer::GetGlyph(char32_t c, int size) {
         std::copy_n(source, glyph.width,
                     glyph.coverage.begin() + static_cast<std::ptrdiff_t>(row) * glyph.width);
     }
-    return &m_glyphs.emplace(key, std::move(glyph)).first->second;
+    return true;
 }
 
 int FontRenderer::Ascender(int size) const {

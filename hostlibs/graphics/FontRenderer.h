@@ -50,6 +50,8 @@ public:
 
     /// The glyph of c at that size; null without a face. Valid until the next call on this renderer.
     const Glyph* GetGlyph(char32_t c, int size);
+    /// A copy of the glyph of c at that size, safe from any thread; false without a face.
+    bool CopyGlyph(char32_t c, int size, Glyph& out);
     /// Pixels from the top of a line to its baseline: the face's ideographic em box fills the line's height.
     int Ascender(int size) const;
 
@@ -59,6 +61,8 @@ private:
     bool OpenFace(const char* path);
     bool UseFace(::FT_FaceRec_* face);
     bool SelectSize(int size);
+    /// Renders c at that size into glyph; the caller holds m_mutex.
+    bool RenderGlyph(char32_t c, int size, Glyph& glyph);
 
     ::FT_LibraryRec_* m_library = nullptr;
     ::FT_FaceRec_* m_face = nullptr;

@@ -110,6 +110,7 @@ bool CGuiMgr::RegisterDialog(CLuDialog* pDialog, int, int) {
 // ---- per frame -----------------------------------------------------------------------------------
 
 void CGuiMgr::Process() {
+    ResetAfterLanguageChange();
     DeliverPostedMessages();
     const DWORD dwNow = TimeGet();
     // Activation may show or hide dialogs, which edits the list: take the due ones out first.
@@ -122,6 +123,16 @@ void CGuiMgr::Process() {
     for (CLuDialog* pDialog : due)
         if (pDialog->IsWindowVisible()) CLuToolkit::Activate(*pDialog);
     ShowHoverTip();
+}
+
+void CGuiMgr::ResetAfterLanguageChange() {
+    // NOTE: the client's toolkit reloads its texts and resets every dialog on the frame after the language
+    // changed; dialogs rely on it (the language curtain starts its timer in its Reset).
+    const int nLanguage = g_objMultiLang.GetCurIndex();
+    const bool bChanged = m_bLanguageSeen && nLanguage != m_nLanguage;
+    m_nLanguage = nLanguage;
+    m_bLanguageSeen = true;
+    if (bChanged) Reset(0);
 }
 
 void CGuiMgr::DeliverPostedMessages() {
@@ -237,17 +248,26 @@ bool CGuiMgr::IsMouseMessage(UINT uMsg) {
 }
 
 bool CGuiMgr::IsKeyMessage(UINT uMsg) {
-    return uMsg == WM_KEYDOWN || uMsg == WM_KEYUP || uMsg == WM_CHAR;
+    // Keys, characters, system keys, the input method's messages and the mouse leaving the window: what has
+    // no point of its own goes where the keyboard goes.
+    constexpr UINT FIRST_KEY = 256, LAST_KEY = 264;
+    constexpr UINT FIRST_IME = 269, LAST_IME = 271, IME_SET_CONTEXT = 641, MOUSE_LEAVE = 675;
+    return (uMsg >= FIRST_KEY && uMsg <= LAST_KEY) || (uMsg >= FIRST_IME && uMsg <= LAST_IME) ||
+           uMsg == IME_SET_CONTEXT || uMsg == MOUSE_LEAVE;
 }
 
 CLuDialog* CGuiMgr::KeyboardTarget() {
     if (m_pFocusEdit && (!m_pFocusEdit->IsWindowVisible() || !m_pFocusEdit->IsWindowEnabled()))
         m_pFocusEdit = nullptr;
+    CLuDialog* pTop = nullptr;
+    for (auto it = m_vecDialogs.rbegin(); it != m_vecDialogs.rend() && !pTop; ++it)
+        if ((*it)->IsWindowVisible() && (*it)->IsWindowEnabled()) pTop = *it;
+    // NOTE: a top-most dialog over the focused field takes the keyboard: typing into a page must never reach
+    // a login field beneath it.
+    if (pTop && pTop->IsTopMost()) return pTop;
     if (m_pFocusEdit && m_pFocusEdit->GetParentDialog()) return m_pFocusEdit->GetParentDialog();
     if (m_pAttentionDialog && m_pAttentionDialog->IsWindowVisible()) return m_pAttentionDialog;
-    for (auto it = m_vecDialogs.rbegin(); it != m_vecDialogs.rend(); ++it)
-        if ((*it)->IsWindowVisible() && (*it)->IsWindowEnabled()) return *it;
-    return nullptr;
+    return pTop;
 }
 
 void CGuiMgr::NotifyLostFocus(CLuDialog* pPressed) {

@@ -86,6 +86,10 @@ private:
 
     CLayoutFile m_layout;
     HWND m_hHostWnd = nullptr;
+    /// The language index seen at the last frame, for the reset after a change.
+    int m_nLanguage = 0;
+    bool m_bLanguageSeen = false;
+    void ResetAfterLanguageChange();
     PFN_SoundCallBack m_pfnSound = nullptr;
     /// Moves the top-most dialogs after the others, keeping the order within each kind.
     void KeepTopMostOnTop();

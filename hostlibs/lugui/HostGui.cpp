@@ -57,6 +57,11 @@ std::string WindowState::Describe() const {
                 " focus=" + (focus ? "1" : "0");
     if (kind == "List") line += " rows=" + std::to_string(rows) + " cursel=" + std::to_string(curSel);
     if (kind == "Progress") line += " pos=" + std::to_string(pos);
+    // NOTE: the screen rectangle comes last so that placements can be checked without touching the fields
+    // before it; the width and height are summed in 64 bits since a host may place a window anywhere.
+    line += " x=" + std::to_string(rect.left) + " y=" + std::to_string(rect.top) +
+            " w=" + std::to_string(static_cast<long long>(rect.right) - rect.left) +
+            " h=" + std::to_string(static_cast<long long>(rect.bottom) - rect.top);
     return line;
 }
 

@@ -217,6 +217,11 @@ bool ParseFlag(const char* sz) {
 
 } // namespace
 
+void CLuBaseWindow::PreInitData_Tip() {
+    const char* szTip = m_pLayout ? m_pLayout->GetValue("Tip") : nullptr;
+    m_strTip = szTip ? szTip : "";
+}
+
 void CLuBaseWindow::ApplyLayout() {
     if (!m_pLayout) return;
     const CLuLayoutRecord& rec = *m_pLayout;

@@ -21,6 +21,7 @@ void CLuList::PreSetParam(int, bool, bool, int, int) {
 
 int CLuList::AddString(const char* szText) {
     m_vecRows.emplace_back(szText ? szText : "");
+    m_vecStyles.emplace_back();
     return GetCount() - 1;
 }
 
@@ -43,6 +44,7 @@ const char* CLuList::GetText(int nRow) const {
 
 void CLuList::ResetContent() {
     m_vecRows.clear();
+    m_vecStyles.clear();
     m_nCurSel = -1;
     m_nHoverRow = -1;
 }
@@ -60,6 +62,17 @@ void CLuList::SetItemLayout(int nFontOffsetX, int nFontOffsetY, int nRowHeight) 
 
 void CLuList::SetMoveClose(int x, int y) {
     m_ptDeleteMark = POINT{x, y};
+}
+
+void CLuList::SetItemStyle(int nRow, DWORD dwColor, const char* szBackground, const char* szIcon,
+                           POINT ptIconOffset) {
+    if (nRow < 0 || nRow >= GetCount()) return;
+    SRowStyle& style = m_vecStyles[static_cast<std::size_t>(nRow)];
+    style.bSet = true;
+    style.dwColor = dwColor;
+    style.strBackground = szBackground ? szBackground : "";
+    style.strIcon = szIcon ? szIcon : "";
+    style.ptIconOffset = ptIconOffset;
 }
 
 void CLuList::SetChooserAni(const char* szTitle, bool bOn) {
@@ -108,11 +121,18 @@ int CLuList::Show() {
         const RECT rcRow = RowRect(nRow);
         if (rcRow.bottom > rc.bottom) break; // rows that do not fit are not drawn
         const bool bMarked = nRow == m_nHoverRow || nRow == m_nCurSel;
+        const SRowStyle& style = m_vecStyles[static_cast<std::size_t>(nRow)];
+        if (!style.strBackground.empty())
+            CGameGraphic::ShowAniRect(m_strBgAniFile.c_str(), style.strBackground.c_str(), 0, rcRow);
         if (bMarked && m_bChooserOn && !m_strChooser.empty())
             CGameGraphic::ShowAniRect(m_strBgAniFile.c_str(), m_strChooser.c_str(), 0, rcRow);
+        if (!style.strIcon.empty())
+            CGameGraphic::ShowAni(m_strBgAniFile.c_str(), style.strIcon.c_str(),
+                                  ClampToInt(static_cast<long long>(rcRow.left) + style.ptIconOffset.x),
+                                  ClampToInt(static_cast<long long>(rcRow.top) + style.ptIconOffset.y), 0);
+        const DWORD dwColor = style.bSet ? style.dwColor : bMarked ? m_dwHighlightColor : m_dwNormalColor;
         CMyBitmap::ShowString(ClampToInt(static_cast<long long>(rcRow.left) + m_nFontOffsetX),
-                              ClampToInt(static_cast<long long>(rcRow.top) + m_nFontOffsetY),
-                              bMarked ? m_dwHighlightColor : m_dwNormalColor,
+                              ClampToInt(static_cast<long long>(rcRow.top) + m_nFontOffsetY), dwColor,
                               m_vecRows[static_cast<std::size_t>(nRow)].c_str(),
                               CMyBitmap::GetDefaultFontName(), nFont);
     }

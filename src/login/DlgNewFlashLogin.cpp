@@ -6,6 +6,7 @@
 #include "login/DlgNewFlashLogin.h"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 
 #include "login/DlgFlashLoginEn.h"
@@ -44,6 +45,8 @@ constexpr DWORD ACCOUNT_LIST_NORMAL = 0xFFFFFF;
 constexpr DWORD ACCOUNT_LIST_HIGHLIGHT = 0xFFFF0000;
 constexpr DWORD LANGUAGE_LIST_NORMAL = 0xAB9160;
 constexpr DWORD LANGUAGE_CURRENT_COLOUR = 0xF7ECB5;
+constexpr const char* LANGUAGE_CURRENT_BG = "newlogin_xzldb";
+constexpr const char* LANGUAGE_CURRENT_ICON = "newlogin_dgico";
 constexpr const char* LIST_CHOOSER = "NewLogin_TipsSelectPic";
 constexpr const char* LANGUAGE_LIST_BG = "newlogin_tcdb";
 constexpr const char* DELETE_MARK_ANI = "NewLogin_XBtn";
@@ -279,6 +282,11 @@ void CDlgNewFlashLogin::ShowDeleteMark() {
 void CDlgNewFlashLogin::Reset() {
     CSimDialog::Reset();
     RefreshTexts();
+    // NOTE: after a language change the toolkit's layout holds the new language's values.
+    m_btnReload.ReloadLayout();
+    for (LuGui::CLuBaseWindow* pWnd : std::array<LuGui::CLuBaseWindow*, 5>{
+             &m_btnLanguage, &m_btnSelectLink, &m_btnAccountList, &m_btnPasswordHelp, &m_btnTokenHelp})
+        pWnd->PreInitData_Tip();
 }
 
 // ---- messages ------------------------------------------------------------------------------------
@@ -438,9 +446,12 @@ void CDlgNewFlashLogin::OnLanguageListButton() {
 void CDlgNewFlashLogin::FillLanguageList() {
     m_listLanguage.ResetContent();
     for (const SLanguageInfo& info : g_objMultiLang.Infos()) m_listLanguage.AddString(info.strName.c_str());
-    // NOTE: the current language's row colour, background and icon are the client list's row styles; ours
-    // marks the current language as the chosen row.
-    m_listLanguage.SetCurSel(g_objMultiLang.GetCurIndex());
+    const int nCurrent = g_objMultiLang.GetCurIndex();
+    int offset[2] = {0, 0};
+    READ_LAYOUT_NUMBERS(STR_LANGUAGE_ICON_OFFSET, offset);
+    m_listLanguage.SetItemStyle(nCurrent, LANGUAGE_CURRENT_COLOUR, LANGUAGE_CURRENT_BG, LANGUAGE_CURRENT_ICON,
+                                POINT{offset[0], offset[1]});
+    m_listLanguage.SetCurSel(nCurrent);
 }
 
 void CDlgNewFlashLogin::OnLanguageRowChosen(int nRow) {

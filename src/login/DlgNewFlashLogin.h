@@ -82,6 +82,8 @@ public:
     void RestoreLastServer(int& nModel, int& nGroup, int& nServer);
     /// Shows the simulator's current group and server and tells the host.
     void UpdateServerLabel();
+    /// Shows a group and server as the chosen ones (label and load picture) without telling the host.
+    void ShowChosenServer(int nGroup, int nServer);
     /// The login: the agreement (unless platform mode A), the account choice, the group chosen here, the
     /// login event and the enter command. The enter button (bFromButton) sends one record command more than
     /// the host's Enter key.

@@ -20,8 +20,8 @@ constexpr std::uint32_t STR_PASSWORD_TIP_OFFSET = 3000193;
 constexpr std::uint32_t STR_TOKEN_TIP_OFFSET = 8000019;
 constexpr std::uint32_t STR_RES_REGISTER_URL = 6124050;
 constexpr std::uint32_t STR_RES_EMBEDDED_BROWSER = 3001192;
-constexpr int WEB_REGISTER_LAYOUT = 7;
-constexpr int WEB_REGISTER_RESERVED = 1000;
+constexpr int WEB_REGISTER_KIND = 7;
+constexpr int WEB_REGISTER_LAYOUT = 1000;
 constexpr int LAST_LOGIN_READ = 255;
 constexpr std::size_t NAME_LIMIT = 255;
 constexpr int INI_READ = 1024;
@@ -249,6 +249,16 @@ void CDlgNewFlashLogin::UpdateServerLabel() {
     pContext->NotifyHostIndex("CMD_SELECTSERVER", pContext->GetCurServer());
 }
 
+void CDlgNewFlashLogin::ShowChosenServer(int nGroup, int nServer) {
+    IScreenContext* pContext = ScreenContext();
+    if (!pContext) return;
+    m_nChosenGroup = nGroup;
+    const char* szGroup = pContext->GetGroupName(nGroup);
+    const char* szServer = pContext->GetServerName(nGroup, nServer);
+    m_staServerLabel.SetWindowTextA(Label(szGroup ? szGroup : "", szServer ? szServer : "").c_str());
+    PlaceLoadPicture(pContext->GetServerLoadOf(nGroup, nServer), false);
+}
+
 void CDlgNewFlashLogin::PlaceLoadPicture(float fLoad, bool bWithBonus) {
     // The bonus table and thresholds are the server dialog's, with this screen's own pictures.
     float f = fLoad;
@@ -365,7 +375,7 @@ void CDlgNewFlashLogin::OpenRegisterPage(bool bFromClick) {
                                               MyGameDataEnQuery()->GetRegisterArg())
                                 .substr(0, URL_LIMIT - 1);
     if (RoleDataQueryEx()->IsEmbeddedBrowser())
-        pContext->OpenWebRegisterPage(url.c_str(), WEB_REGISTER_LAYOUT, WEB_REGISTER_RESERVED);
+        pContext->OpenWebRegisterPage(WEB_REGISTER_KIND, WEB_REGISTER_LAYOUT, url.c_str());
     else if (!url.empty()) // a client without the address has no page to open
         ShellExecuteA(nullptr, "open", url.c_str(), nullptr, nullptr, SW_SHOW);
     pContext->SetRegisterOpen(bBrowserFolder);

@@ -28,6 +28,8 @@ public:
     virtual void SetSetting(const char* szKey, int nValue) = 0;
     /// The game data's input flag: while it is set, the host is told that no login field has the focus.
     virtual bool IsInputFlagSet() = 0;
+    /// The web-page switch: 1 while the registration page is shown, 0 after.
+    virtual void SetWebPageSwitch(int nOn) = 0;
 
 protected:
     ~IRoleDataEn() = default;
@@ -54,6 +56,11 @@ public:
     virtual bool IsQRLoginEnabled() = 0;
     /// The WeChat switch: the classic login offers its external-login row.
     virtual bool IsWeChatLoginEnabled() = 0;
+    /// Text nId of the role data's text table (layout numbers of the international dialogs); empty when
+    /// absent.
+    virtual const char* GetRoleText(std::uint32_t nId) = 0;
+    /// The value the game logic knows the logged-in account by.
+    virtual std::int64_t GetAccountValue() = 0;
 
 protected:
     ~IRoleDataEx() = default;

@@ -160,6 +160,10 @@ public:
         m_dwTipColor = dwColor;
     }
     const char* GetTipText() const { return m_strTip.c_str(); }
+    /// Reads the tool tip again from the window's layout record (none without a record or key).
+    void PreInitData_Tip();
+    /// Applies the window's layout record again (place, texts, pictures, flags); nothing without one.
+    void ReloadLayout() { ApplyLayout(); }
     DWORD GetTipColor() const { return m_dwTipColor; }
 
 protected:

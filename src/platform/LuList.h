@@ -51,6 +51,11 @@ public:
     int GetRowHeight() const { return m_nRowHeight; }
     /// Where each row's delete mark sits, relative to the row's top-left corner; negative x: no mark.
     void SetMoveClose(int x, int y);
+    /// A row's own look: its text colour, a picture under it and an icon at an offset from its top-left
+    /// corner (titles of the list's animation file; empty for none). ResetContent drops it; nothing for no
+    /// such row.
+    void SetItemStyle(int nRow, DWORD dwColor, const char* szBackground, const char* szIcon,
+                      POINT ptIconOffset);
     /// The picture drawn under the row under the cursor (a title of the list's animation file).
     void SetChooserAni(const char* szTitle, bool bOn);
     /// The row under the cursor, -1 for none.
@@ -71,9 +76,17 @@ public:
     void OnLButtonUp(UINT nFlags, POINT point) override;
 
 private:
+    struct SRowStyle {
+        bool bSet = false;
+        DWORD dwColor = 0;
+        std::string strBackground;
+        std::string strIcon;
+        POINT ptIconOffset{0, 0};
+    };
     RECT RowRect(int nRow) const;
 
     std::vector<std::string> m_vecRows;
+    std::vector<SRowStyle> m_vecStyles; ///< one per row
     int m_nCurSel = -1;
     int m_nHoverRow = -1;
     DWORD m_dwNormalColor = 0xFFFFFFFF;

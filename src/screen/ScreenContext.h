@@ -127,8 +127,26 @@ public:
     virtual void ShowScreen(UINT nTemplateId, bool bShow) = 0;
     /// Opens a non-empty web address with the system's shell.
     virtual void OpenWebAddress(const char* szAddress) = 0;
-    /// Opens a page in the embedded registration browser.
-    virtual void OpenWebRegisterPage(const char* szUrl, int nLayoutId, int nReserved) = 0;
+    /// Opens a page of a kind (7: the embedded browser) and a layout record in the registration dialog and
+    /// shows it.
+    virtual void OpenWebRegisterPage(int nKind, int nLayoutId, const char* szUrl) = 0;
+
+    // ---- the international picker and role list (group and server indices 0-based) ----
+    /// Servers of any group (0 for a group that does not exist).
+    virtual int GetServerCountOf(int nGroup) const = 0;
+    virtual float GetServerLoadOf(int nGroup, int nServer) const = 0;
+    virtual bool IsServerAchTipOf(int nGroup, int nServer) const = 0;
+    /// The current server, announced with CMD_SELECTSERVER (server + 1).
+    virtual void SelectServer(int nServer) = 0;
+    /// The selection the host remembers (its GetSelection and SetSelection).
+    virtual void RememberSelection(int nGroup, int nServer) = 0;
+    virtual bool GetRememberedSelection(int& nGroup, int& nServer) const = 0;
+    /// The main login shows a group and server as chosen, without telling the host.
+    virtual void ShowChosenServer(int nGroup, int nServer) = 0;
+    /// The main login shows the current group and server and tells the host (its UpdateServerLabel).
+    virtual void RefreshServerLabel() = 0;
+    /// Opens the server role list for a group and server.
+    virtual void ShowServerRoleList(int nGroup, int nServer) = 0;
 
     // ---- events ----
     /// The listener must stay alive until RemoveListener or the simulator's end.

@@ -8,7 +8,7 @@
 #include "platform/LuGui.h"
 #include "resources/MyString.h"
 #include "screen/LayoutNumbers.h"
-#include "servers/ServerLoad.h"
+#include "screen/ServerLoad.h"
 
 namespace {
 

@@ -6,6 +6,12 @@
 
 // The classic login opens the quick-entry editor by its template id, since screens do not know each other.
 static_assert(CDlgFlashLogin::IDD_QUICK_ENTRY_EDITOR == CDlgAddQuickEntry::IDD);
+static_assert(CDlgFlashLoginEn::IDD_ROLE_LIST == CDlgFlashCharacterEn::IDD);
+
+CDialogSet::CDialogSet() {
+    // The registration dialog hosts the simulator's one browser, a member declared after it.
+    m_dlgWebRegister.SetBrowser(&m_webBrowser);
+}
 
 std::array<CSimDialog*, CDialogSet::REGISTRATIONS> CDialogSet::RegistrationOrder() {
     // NOTE: the role-creation dialog is registered twice (fifth and tenth); the manager decides what that

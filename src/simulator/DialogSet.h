@@ -33,7 +33,7 @@
 
 class CDialogSet {
 public:
-    CDialogSet() = default;
+    CDialogSet();
     CDialogSet(const CDialogSet&) = delete;
     CDialogSet& operator=(const CDialogSet&) = delete;
 

@@ -195,7 +195,7 @@ LRESULT CFlashSimulator::WindowProc(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM 
 
 std::int32_t CFlashSimulator::PreTranslateMessage(MSG* pMsg) {
     CDlgWebRegisterEn& page = m_pDialogs->m_dlgWebRegister;
-    return page.IsWindowVisible() ? page.PreTranslateMessage(pMsg) : 1;
+    return page.IsWindowVisible() ? page.PreTranslateHostMessage(pMsg) : 1;
 }
 
 bool CFlashSimulator::IsWebRegisterVisible() {
@@ -459,11 +459,38 @@ void CFlashSimulator::ShowMessageBox(int nKind, const char* szText) {
 void CFlashSimulator::ShowScreen(UINT nTemplateId, bool bShow) {
     // NOTE: opening the WeChat login also picks its page and tells the host to lay its web page over it.
     if (nTemplateId == CDlgWeiXinLogin::IDD && bShow) return m_pDialogs->m_dlgWeiXinLogin.Open();
-    if (CSimDialog* pDialog = m_pDialogs->Find(nTemplateId)) pDialog->ShowWindow(bShow ? SW_SHOW : SW_HIDE);
+    CSimDialog* pDialog = m_pDialogs->Find(nTemplateId);
+    if (!pDialog) return;
+    // The picker and the role list are disabled while closed; opening them enables them again.
+    if (nTemplateId == CDlgFlashLoginEn::IDD || nTemplateId == CDlgFlashCharacterEn::IDD)
+        pDialog->EnableWindow(bShow ? TRUE : FALSE);
+    pDialog->ShowWindow(bShow ? SW_SHOW : SW_HIDE);
 }
 
-void CFlashSimulator::OpenWebRegisterPage(const char* szUrl, int nLayoutId, int nReserved) {
-    m_pDialogs->m_dlgWebRegister.OpenPage(szUrl, nLayoutId, nReserved);
+bool CFlashSimulator::GetRememberedSelection(int& nGroup, int& nServer) const {
+    nGroup = m_state.m_nSelFirst;
+    nServer = m_state.m_nSelSecond;
+    return m_state.m_bSelSet;
+}
+
+void CFlashSimulator::ShowChosenServer(int nGroup, int nServer) {
+    m_pDialogs->m_dlgNewFlashLogin.ShowChosenServer(nGroup, nServer);
+}
+
+void CFlashSimulator::RefreshServerLabel() {
+    m_pDialogs->m_dlgNewFlashLogin.UpdateServerLabel();
+}
+
+void CFlashSimulator::ShowServerRoleList(int nGroup, int nServer) {
+    CDlgFlashCharacterEn& list = m_pDialogs->m_dlgCharacterEn;
+    list.SetGroupServer(nGroup, nServer);
+    list.EnableWindow(TRUE);
+    list.ShowWindow(SW_SHOW);
+}
+
+void CFlashSimulator::OpenWebRegisterPage(int nKind, int nLayoutId, const char* szUrl) {
+    m_pDialogs->m_dlgWebRegister.OpenPage(nKind, nLayoutId, szUrl);
+    m_pDialogs->m_dlgWebRegister.ShowWindow(SW_SHOW);
 }
 
 void CFlashSimulator::AddListener(IScreenListener* pListener) {

@@ -114,7 +114,20 @@ public:
     void ShowMessageBox(int nKind, const char* szText) override;
     void ShowScreen(UINT nTemplateId, bool bShow) override;
     void OpenWebAddress(const char* szAddress) override;
-    void OpenWebRegisterPage(const char* szUrl, int nLayoutId, int nReserved) override;
+    void OpenWebRegisterPage(int nKind, int nLayoutId, const char* szUrl) override;
+    int GetServerCountOf(int nGroup) const override { return m_lists.GetServerCount(nGroup); }
+    float GetServerLoadOf(int nGroup, int nServer) const override {
+        return m_lists.GetServerLoad(nGroup, nServer);
+    }
+    bool IsServerAchTipOf(int nGroup, int nServer) const override {
+        return m_lists.IsServerAchTip(nGroup, nServer);
+    }
+    void SelectServer(int nServer) override { SetServer(nServer, false); }
+    void RememberSelection(int nGroup, int nServer) override { SetSelection(true, nGroup, nServer); }
+    bool GetRememberedSelection(int& nGroup, int& nServer) const override;
+    void ShowChosenServer(int nGroup, int nServer) override;
+    void RefreshServerLabel() override;
+    void ShowServerRoleList(int nGroup, int nServer) override;
     void AddListener(IScreenListener* pListener) override;
     void RemoveListener(IScreenListener* pListener) override;
 

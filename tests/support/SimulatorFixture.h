@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -25,11 +26,11 @@ protected:
 
     /// Writes the client files first (strings and server configuration), then creates the simulator.
     void Create(int nLanguage = 0, const std::string& strings = "8000102=Tick the agreement.\n",
-                const std::string& serverCfg = "") {
+                const std::string& serverCfg = "", std::uint64_t hHostWindow = 0) {
         m_dir.Write("ini/FlashString.ini", strings);
         if (!serverCfg.empty()) m_dir.Write("ini/ServerCfg.ini", serverCfg);
         m_sim = FlashSimQuery();
-        m_sim->Create(0, 0, nLanguage, true);
+        m_sim->Create(hHostWindow, 0, nLanguage, true);
         m_sim->SetCallBack(&Record);
         Commands().clear();
     }

@@ -72,6 +72,9 @@ constexpr long long COORD_LOW = INT16_MIN, COORD_HIGH = INT16_MAX; // a mouse me
 constexpr long long MAX_FRAMES_PER_STEP = 1000000;
 constexpr DWORD FRAME_MS = 16; // a frame at about 60 per second
 constexpr long long MAX_VIRTUAL_KEY = 255;
+// The reference host's window handle: any non-null value, as the system only hands it on (the browser
+// library creates pages inside it).
+constexpr std::uint64_t HOST_WINDOW = 1;
 } // namespace
 
 // ---- running ---------------------------------------------------------------------------------------
@@ -175,6 +178,9 @@ void ScenarioRunner::Execute(const ScenarioStep& step) {
     if (name == "scratch") return StepScratch(step);
     if (name == "serve") return StepServe(step);
     if (name == "await") return StepAwait(step);
+    if (name == "msg") return StepMsg(step);
+    if (name == "ime") return StepIme(step);
+    if (name == "browser") return StepBrowser(step);
     Fail(step, "unknown step \"" + EscapeText(name) + "\"");
 }
 
@@ -260,7 +266,7 @@ void ScenarioRunner::StepCreate(const ScenarioStep& step) {
         }
     }
     if (!RequireSimulator(step)) return;
-    m_pSim->Create(0, 0, static_cast<std::int32_t>(language), bRegister);
+    m_pSim->Create(HOST_WINDOW, 0, static_cast<std::int32_t>(language), bRegister);
 }
 
 void ScenarioRunner::StepCallback(const ScenarioStep& step) {

@@ -79,6 +79,10 @@ private:
     void StepAwait(const ScenarioStep& step);
     /// One frame as the game client runs it: the clock moves on, then Process and Show.
     void RunFrame(DWORD dwMilliseconds);
+    // Window messages as a host forwards them, and the browser library's side (BrowserSteps.cpp).
+    void StepMsg(const ScenarioStep& step);
+    void StepIme(const ScenarioStep& step);
+    void StepBrowser(const ScenarioStep& step);
 
     void InstallLogSink();
     /// Prints each overflow of the frame not printed before: "! cut at ..." for what the clip cut at the

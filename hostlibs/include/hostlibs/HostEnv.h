@@ -59,6 +59,8 @@ void SetData(const std::string& key, const std::string& value);
 std::string GetData(const std::string& key, const std::string& fallback = {});
 bool HasData(const std::string& key);
 int GetDataInt(const std::string& key, int fallback = 0);
+/// A number that changes whenever any host data is set: readers of large values parse them again only then.
+std::uint64_t DataVersion();
 
 /// The window system's input state that GetCursorPos and GetKeyState report: a host moves the cursor and
 /// presses keys here before it forwards the matching window message (as the operating system would).

@@ -27,7 +27,8 @@ struct WindowState {
     int pos = 0;                  ///< progress bars
 
     /// The fields of the `show` step: `visible=1 enabled=1 text="..." bg="..." checked=0`, then what the
-    /// kind adds (`sel=S,E focus=F`, `rows=N cursel=I`, `pos=P`).
+    /// kind adds (`sel=S,E focus=F`, `rows=N cursel=I`, `pos=P`), and last the screen rectangle
+    /// `x=X y=Y w=W h=H`.
     std::string Describe() const;
 };
 

@@ -210,12 +210,14 @@ TEST_F(MainLoginTest, AccountCreationPageOpensEmbeddedOnceWhileLocked) {
     host::SetData("strres.6124050", "https://example.com/register?from={}");
     host::SetData("strres.3001192", "1");
     host::SetData("gamedata.registerarg", "7");
+    host::SetData("layout.1000", "0 0 800 600");
     Start();
     TakeCommands();
     Press(CDlgNewFlashLogin::IDC_CREATE_LINK);
-    EXPECT_EQ(TakeCommands(), std::vector<std::string>{"BURYING_POINT 117"});
+    // The dialog shows before the click's usage event.
+    EXPECT_EQ(TakeCommands(), (std::vector<std::string>{"CLEAR_KEY_INPUT 0", "BURYING_POINT 117"}));
     EXPECT_TRUE(m_sim->Dialogs().m_dlgWebRegister.IsWindowVisible());
-    EXPECT_STREQ(m_sim->Dialogs().m_dlgWebRegister.GetPageUrl(), "https://example.com/register?from=7");
+    EXPECT_EQ(m_sim->Dialogs().m_webBrowser.GetUrl(), "https://example.com/register?from=7");
     EXPECT_TRUE(m_sim->IsRegisterOpen());
     Press(CDlgNewFlashLogin::IDC_CREATE_LINK); // locked: nothing
     EXPECT_TRUE(TakeCommands().empty());
@@ -302,3 +304,22 @@ TEST_F(MainLoginTest, ActivationAndAttentionMessages) {
 }
 
 } // namespace
+
+TEST_F(MainLoginTest, ResetReadsTheFiveTipsAndTheReloadButtonFromTheLayoutAgain) {
+    m_dir.Write("FlashGui.ini", std::string(LAYOUT) + "[Dialog1013.1004]\nTip = Language\n"
+                                                      "[Dialog1013.1006]\nTip = Token help\n"
+                                                      "[Dialog1013.1002]\nRect = 400 10 40 20\nText = R\n");
+    Start();
+    LuGui::CLuCtrl& button = *Login().GetControl(CDlgNewFlashLogin::IDC_LANGUAGE_BUTTON);
+    LuGui::CLuCtrl& help = *Login().GetControl(CDlgNewFlashLogin::IDC_TOKEN_HELP);
+    LuGui::CLuCtrl& reload = *Login().GetControl(CDlgNewFlashLogin::IDC_RELOAD);
+    button.SetTipText("stale");
+    help.SetTipText("stale");
+    reload.MoveWindow(0, 0, 1, 1);
+    reload.SetWindowTextA("stale");
+    Login().Reset();
+    EXPECT_STREQ(button.GetTipText(), "Language");
+    EXPECT_STREQ(help.GetTipText(), "Token help");
+    EXPECT_EQ(reload.GetWidth(), 40);
+    EXPECT_STREQ(reload.GetWindowTextA(), "R");
+}

@@ -2,6 +2,7 @@
 // frames of buttons and check boxes, and the effect objects windows own.
 #include <gmock/gmock.h>
 
+#include <map>
 #include <memory>
 
 #include "GuiTestFixture.h"
@@ -50,6 +51,32 @@ TEST_F(ControlsTest, ClickOnARowChoosesItAndTellsTheDialog) {
     list.ResetContent();
     Click(300, 65);
     EXPECT_THAT(m_dlg.TakeCalls(), IsEmpty()) << "no row there any more";
+}
+
+TEST_F(ControlsTest, ARowsOwnStyleDrawsItsPictureIconAndColourUntilTheContentIsReset) {
+    Start();
+    Open(m_dlg);
+    LuGui::CLuList& list = m_dlg.m_list;
+    list.AddString("one");
+    list.AddString("two");
+    list.SetItemStyle(1, 0xFF112233, "Panel", "Btn1", POINT{50, 2});
+    list.SetItemStyle(5, 0xFF445566, "Nowhere", "", POINT{0, 0}); // no such row: nothing
+    host::SetCursor(0, 0);
+    std::vector<host::DrawOp> ops = Frame();
+    std::map<std::string, DWORD> colours;
+    for (const host::DrawOp& op : OpsOfKind(ops, "text")) colours[op.text] = op.colour;
+    EXPECT_EQ(colours["two"], 0xFF112233u);
+    EXPECT_NE(colours["one"], 0xFF112233u);
+    EXPECT_EQ(DrawnFrame(ops, "Nowhere"), -1);
+    ASSERT_EQ(DrawnFrame(ops, "Btn1"), 0);
+    for (const host::DrawOp& op : ops) {
+        if (op.name == "Btn1") {
+            EXPECT_EQ(op.x, list.GetWindowRect().left + 50) << "at the row's offset";
+        }
+    }
+    list.ResetContent();
+    list.AddString("again");
+    EXPECT_EQ(DrawnFrame(Frame(), "Panel"), -1) << "styles go with the rows";
 }
 
 // ---- progress bars ---------------------------------------------------------------------------------

@@ -1,7 +1,7 @@
 // The displayed-load table: raised small loads, the cap, the levels and words, maintenance.
 #include <gtest/gtest.h>
 
-#include "servers/ServerLoad.h"
+#include "screen/ServerLoad.h"
 
 TEST(ServerLoad, RaisesSmallLoadsCapsAndLevels) {
     struct Case {

@@ -17,3 +17,5 @@ inline constexpr std::uint32_t STR_LOAD_MAINTENANCE = 3110029;
 
 /// The displayed load of a raw load (players x 100 / capacity, or -1 in maintenance).
 SLoadDisplay ComputeLoadDisplay(float fRaw);
+/// The load picture of a displayed load: full from 75, medium from 50, low from 0, maintenance below 0.
+const char* LoadPictureOf(const SLoadDisplay& display);

@@ -1,6 +1,6 @@
 // How a server's load is shown: small loads are raised by a fixed table, then levelled for pictures and
 // words.
-#include "servers/ServerLoad.h"
+#include "screen/ServerLoad.h"
 
 namespace {
 // Loads below each limit are shown raised by its bonus; 80 and above are shown as they are.
@@ -14,6 +14,12 @@ constexpr float LOAD_CAP = 100.0f;
 constexpr float LEVEL_VERY_BUSY = 75.0f;
 constexpr float LEVEL_BUSY = 50.0f;
 } // namespace
+
+const char* LoadPictureOf(const SLoadDisplay& display) {
+    if (display.nLevel == 2) return "NewLogin_serfullPic";
+    if (display.nLevel == 1) return "NewLogin_serMediumPic";
+    return display.fShown >= 0.0f ? "NewLogin_serlowPic" : "NewLogin_serMaintenancePic";
+}
 
 SLoadDisplay ComputeLoadDisplay(float fRaw) {
     float shown = fRaw;
