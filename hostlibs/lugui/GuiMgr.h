@@ -51,6 +51,10 @@ public:
     /// The process's live manager (the last one created), for the host's inspection.
     static CGuiMgr* Current();
 
+    /// The top-most visible, enabled dialog under a screen point (a dialog counts where it or one of its
+    /// controls lies; a click-through dialog only where one of its controls lies).
+    CLuDialog* DialogAt(POINT pt) const;
+
 private:
     ~CGuiMgr();
 
@@ -66,9 +70,6 @@ private:
 
     /// What every Init does before reading the layout: the journal line and the host's window.
     void BeginInit(std::uint64_t hHost, const std::string& strFile);
-    /// The top-most visible, enabled dialog under a screen point (a dialog counts where it or one of its
-    /// controls lies).
-    CLuDialog* DialogAt(POINT pt) const;
     /// Where keyboard messages go: the focused edit's dialog, else the dialog last pressed, else the top-most
     /// visible one.
     CLuDialog* KeyboardTarget();

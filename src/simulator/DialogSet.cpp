@@ -7,6 +7,12 @@
 // The classic login opens the quick-entry editor by its template id, since screens do not know each other.
 static_assert(CDlgFlashLogin::IDD_QUICK_ENTRY_EDITOR == CDlgAddQuickEntry::IDD);
 
+CDialogSet::CDialogSet() {
+    m_dlgCreateRole.Link(&m_dlgSelectPro, &m_dlgSelectHead);
+    m_dlgSelectPro.Link(&m_dlgCreateRole, &m_dlgSelectHead);
+    m_dlgSelectHead.Link(&m_dlgSelectPro);
+}
+
 std::array<CSimDialog*, CDialogSet::REGISTRATIONS> CDialogSet::RegistrationOrder() {
     // NOTE: the role-creation dialog is registered twice (fifth and tenth); the manager decides what that
     // means.

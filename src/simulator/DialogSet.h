@@ -33,7 +33,8 @@
 
 class CDialogSet {
 public:
-    CDialogSet() = default;
+    /// Links the dialogs of the standard creation layout to each other.
+    CDialogSet();
     CDialogSet(const CDialogSet&) = delete;
     CDialogSet& operator=(const CDialogSet&) = delete;
 

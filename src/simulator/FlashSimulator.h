@@ -115,6 +115,9 @@ public:
     void ShowScreen(UINT nTemplateId, bool bShow) override;
     void OpenWebAddress(const char* szAddress) override;
     void OpenWebRegisterPage(const char* szUrl, int nLayoutId, int nReserved) override;
+    const SCreateRoleParam& GetCreateRoleParam() const override { return m_state.m_createRoleParam; }
+    bool IsSelectedServerAchTips() const override;
+    bool IsDarkKnightAllowed() const override { return m_state.m_bDarkKnight; }
     void AddListener(IScreenListener* pListener) override;
     void RemoveListener(IScreenListener* pListener) override;
 
