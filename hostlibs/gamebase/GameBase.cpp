@@ -8,6 +8,7 @@
 #include "GameDataSet.h"
 #include "Graphics.h"
 #include "Gui3DEffect.h"
+#include "SceneOrigin.h"
 #include "hostlibs/HostEnv.h"
 
 namespace {
@@ -111,11 +112,8 @@ void CMyGame3DEffectEx::Show(int x, int y, const char* szName) {
     // the figure); with one, at that screen point.
     POINT pt{x + m_pImpl->ptOffset.x, y + m_pImpl->ptOffset.y};
     if (!m_pImpl->bOffset) {
-        int nMode = 0;
-        double dDistance = 0;
-        CMyBitmap::GameCameraGet(pt.x, pt.y, dDistance, nMode);
-        pt.x += x;
-        pt.y += y + GROUND_DROP;
+        const POINT origin = gamebase::SceneOrigin();
+        pt = POINT{origin.x + x, origin.y + y + GROUND_DROP};
     }
     for (const std::string& name : m_pImpl->names) {
         if (szName && name != szName) continue;

@@ -5,6 +5,7 @@
 
 #include "Graphics.h"
 #include "Role.h"
+#include "gamebase/SceneOrigin.h"
 #include "gamedata/RoleCreateRecords.h"
 #include "hostlibs/HostEnv.h"
 
@@ -118,9 +119,9 @@ void CRole::SetBodyLight(int, double, double, double, double, double, double, do
 void CRole::DrawBody(int x, int y) {
     host::Count("role.draw");
     const SImpl& role = *m_pImpl;
-    int nCenterX = 0, nCenterY = 0, nMode = 0;
-    double dDistance = 0;
-    CMyBitmap::GameCameraGet(nCenterX, nCenterY, dDistance, nMode);
+    const POINT origin = gamebase::SceneOrigin();
+    const int nCenterX = origin.x;
+    const int nCenterY = origin.y;
     const int nKey = gamedata::KeyOfLook(role.nLook);
     const int nSex = nKey % SEX_MODULO;
     const double dScale = std::clamp(role.dScale, 0.1, 4.0);
