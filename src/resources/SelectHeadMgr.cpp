@@ -1,6 +1,7 @@
 // Reading "ini/SelectHead.ini" into the head configuration, bounded whatever the file holds.
 #include "resources/SelectHeadMgr.h"
 
+#include <algorithm>
 #include <charconv>
 #include <memory>
 #include <optional>
@@ -143,17 +144,21 @@ void CSelectHeadMgr::ReadHeadList(const CZrIni& ini, const char* szAmountKey, st
     if (!ini.GetBlockValueInt(szAmountKey, nAmount) || nAmount < 1) return;
     // NOTE: the keys 1..amount are looked for among the block's lines instead of one lookup per n, so that
     // an amount of two billion costs what the block's lines cost. The first line of a key counts.
-    std::map<std::int64_t, std::int32_t> byIndex;
+    std::vector<std::pair<std::int64_t, std::int32_t>> byIndex;
     const int nLines = ini.GetBlockLineAmount();
+    byIndex.reserve(static_cast<std::size_t>(nLines));
     for (int i = 0; i < nLines; ++i) {
         const char* szKey = nullptr;
         const char* szValue = nullptr;
         if (!ini.GetBlockLineByIndexKV(i, szKey, szValue)) continue;
         const std::int64_t n = ExactIndexAfter(szKey, prefix);
-        if (n >= 1 && n <= nAmount) byIndex.try_emplace(n, SafeAtoi(szValue));
+        if (n >= 1 && n <= nAmount) byIndex.emplace_back(n, SafeAtoi(szValue));
     }
+    std::stable_sort(byIndex.begin(), byIndex.end(),
+                     [](const auto& a, const auto& b) { return a.first < b.first; });
     vecOut.reserve(vecOut.size() + byIndex.size());
-    for (const auto& [n, nHead] : byIndex) vecOut.push_back(nHead);
+    for (std::size_t i = 0; i < byIndex.size(); ++i)
+        if (i == 0 || byIndex[i].first != byIndex[i - 1].first) vecOut.push_back(byIndex[i].second);
 }
 
 std::int32_t CSelectHeadMgr::GetProHeadAni(std::int32_t nKey) const {

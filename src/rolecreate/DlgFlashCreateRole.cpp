@@ -1,6 +1,7 @@
 // The standard creation dialog: its start, the explanation panel, registration and the volume while shown.
 #include "rolecreate/DlgFlashCreateRole.h"
 
+#include <array>
 #include <string>
 
 #include "platform/GameBase.h"
@@ -99,19 +100,17 @@ void CDlgFlashCreateRole::SetProfessionAndSex(std::int32_t nProfession, std::int
 
 void CDlgFlashCreateRole::ShowCreationControls(bool bVisible) {
     const int nShow = bVisible ? SW_SHOW : SW_HIDE;
-    for (LuGui::CLuCtrl* pCtrl :
-         {static_cast<LuGui::CLuCtrl*>(&m_staLower1), static_cast<LuGui::CLuCtrl*>(&m_staLower2),
-          static_cast<LuGui::CLuCtrl*>(&m_staNameLabel), static_cast<LuGui::CLuCtrl*>(&m_edtName),
-          static_cast<LuGui::CLuCtrl*>(&m_btnCreate), static_cast<LuGui::CLuCtrl*>(&m_staProfessionName),
-          static_cast<LuGui::CLuCtrl*>(&m_staExplain)})
-        pCtrl->ShowWindow(nShow);
+    for (LuGui::CLuCtrl* pCtrl : CreationControls()) pCtrl->ShowWindow(nShow);
+    m_staProfessionName.ShowWindow(nShow);
+    m_staExplain.ShowWindow(nShow);
+}
+
+std::array<LuGui::CLuCtrl*, 5> CDlgFlashCreateRole::CreationControls() {
+    return {&m_staLower1, &m_staLower2, &m_staNameLabel, &m_edtName, &m_btnCreate};
 }
 
 void CDlgFlashCreateRole::DrawCreationControls() {
-    for (LuGui::CLuCtrl* pCtrl :
-         {static_cast<LuGui::CLuCtrl*>(&m_staLower1), static_cast<LuGui::CLuCtrl*>(&m_staLower2),
-          static_cast<LuGui::CLuCtrl*>(&m_staNameLabel), static_cast<LuGui::CLuCtrl*>(&m_edtName),
-          static_cast<LuGui::CLuCtrl*>(&m_btnCreate)})
+    for (LuGui::CLuCtrl* pCtrl : CreationControls())
         if (pCtrl->IsWindowVisible()) pCtrl->Show();
 }
 

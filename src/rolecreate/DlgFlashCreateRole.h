@@ -1,6 +1,7 @@
 // The creation screen of the standard layout: name, create button, profession explanation and the preview.
 #pragma once
 
+#include <array>
 #include <cstdint>
 
 #include "controls/SimButton.h"
@@ -70,6 +71,8 @@ private:
     void UpdateExplanation(std::int32_t nProfession, std::int32_t nSex);
     void OnShown();
     void OnHidden();
+    /// The lower panels and the name row, in drawing order.
+    std::array<LuGui::CLuCtrl*, 5> CreationControls();
 
     CRolePreview m_preview{CRolePreview::SOptions{false, true}};
     int m_nSavedVolume = 0;

@@ -2,7 +2,6 @@
 #include "rolecreate/DlgFlashSelectHead.h"
 
 #include "platform/BaseLib.h"
-#include "platform/GameBase.h"
 #include "resources/SelectHeadMgr.h"
 #include "rolecreate/CreationGates.h"
 #include "rolecreate/DlgFlashSelectPro.h"
