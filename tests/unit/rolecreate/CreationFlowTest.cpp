@@ -195,4 +195,19 @@ TEST_F(CreationFlowTest, HidingTheCreationDialogRestoresTheVolumeAndForgetsTheHe
     EXPECT_EQ(host::JournalCount("sound.closeall"), 1);
 }
 
+TEST_F(CreationFlowTest, TheFlagShowsTheCurrentNationalitysPictureOrTheFallback) {
+    Open(SAMPLE_HEADS);
+    const auto flag = [this] {
+        return std::string(static_cast<const CSimImage*>(SelectPro().GetControl(CDlgFlashSelectPro::IDC_FLAG))
+                               ->GetAniTitle());
+    };
+    EXPECT_EQ(flag(), "Nationality_UNPic");
+    host::SetData("nationality", "3 Nationality_Blue");
+    m_sim->Show();
+    EXPECT_EQ(flag(), "Nationality_Blue");
+    host::SetData("nationality", "4");
+    m_sim->Show();
+    EXPECT_EQ(flag(), "Nationality_Blue") << "a nationality without a record keeps the picture";
+}
+
 } // namespace
