@@ -1,14 +1,23 @@
-// The profession table: ids, selection effects and forced codes by button index.
+// The profession table: ids, pictures of both layouts and forced codes by button index.
 #include "rolecreate/ProfessionTable.h"
 
 namespace {
 struct SProfession {
     std::int32_t nId;
     const char* szSelectEffect;
+    const char* szEnglishButton;
+    const char* szIntroIcon;
+    const char* szIntroPicture;
 };
 constexpr SProfession PROFESSIONS[CProfessionTable::COUNT] = {
-    {10, "wizardico"}, {20, "soldierico"}, {60, "necico"},   {30, "espico"},
-    {50, "bloodico"},  {70, "knightico"},  {80, "acherico"}, {100, ""},
+    {10, "wizardico", "encrerole_mage", "encrerole_mageico", "encrerole_fxtmage"},
+    {20, "soldierico", "encrerole_warrior", "encrerole_warriorico", "encrerole_fxtwarrior"},
+    {60, "necico", "encrerole_necromancer", "encrerole_necromancerico", "encrerole_fxtnecromancer"},
+    {30, "espico", "encrerole_paladin", "encrerole_paladinico", "encrerole_fxtpaladin"},
+    {50, "bloodico", "encrerole_vampire", "encrerole_vampiceico", "encrerole_fxtvampire"},
+    {70, "knightico", "encrerole_shadow", "encrerole_shadowico", "encrerole_fxtshadow"},
+    {80, "acherico", "encrerole_ranger", "encrerole_rangerico", "encrerole_fxtranger"},
+    {100, "", "encrerole_swordfix", "encrerole_swordfixico", "encrerole_fxtswordfix"},
 };
 constexpr std::int32_t FORCED_FIRST = 7;
 // Indices of the forced codes 7 to 13.
@@ -32,6 +41,20 @@ int CProfessionTable::IndexOf(std::int32_t nId) {
 
 const char* CProfessionTable::SelectEffectOf(int nIndex) {
     return InTable(nIndex) ? PROFESSIONS[nIndex].szSelectEffect : "";
+}
+
+const char* CProfessionTable::EnglishButtonOf(int nIndex) {
+    return InTable(nIndex) ? PROFESSIONS[nIndex].szEnglishButton : "";
+}
+
+const char* CProfessionTable::IntroIconOf(std::int32_t nId) {
+    const int nIndex = IndexOf(nId);
+    return nIndex >= 0 ? PROFESSIONS[nIndex].szIntroIcon : "";
+}
+
+const char* CProfessionTable::IntroPictureOf(std::int32_t nId) {
+    const int nIndex = IndexOf(nId);
+    return nIndex >= 0 ? PROFESSIONS[nIndex].szIntroPicture : "";
 }
 
 int CProfessionTable::ForcedIndexOf(std::int32_t nForcedType) {

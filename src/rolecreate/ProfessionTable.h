@@ -22,6 +22,11 @@ public:
     static int IndexOf(std::int32_t nId);
     /// Foreground effect of the standard layout's selected button; empty for index 7 and outside.
     static const char* SelectEffectOf(int nIndex);
+    /// Button picture of the English column; empty outside 0 to 7.
+    static const char* EnglishButtonOf(int nIndex);
+    /// Icon and picture of the English introduction panel for a profession id; empty for an unknown id.
+    static const char* IntroIconOf(std::int32_t nId);
+    static const char* IntroPictureOf(std::int32_t nId);
     /// Button index a forced profession code 7 to 13 gives; -1 for any other code.
     static int ForcedIndexOf(std::int32_t nForcedType);
     static bool IsSex(std::int32_t nSex) { return nSex == SEX_MALE || nSex == SEX_FEMALE; }
