@@ -7,6 +7,7 @@
 
 #include "BaseLib.h"
 #include "GameData.h"
+#include "RoleCreateRecords.h"
 #include "hostlibs/HostEnv.h"
 
 namespace {
@@ -14,6 +15,9 @@ class CRoleData final : public IRoleData {
 public:
     void PlaySoundByName(const char* szName) override {
         host::Journal("gamedata.sound", {{"name", szName ? szName : ""}});
+    }
+    bool GetCreateRecord(int nKey, SRoleCreateRecord& record) override {
+        return gamedata::FindCreateRecord(nKey, record);
     }
 };
 
@@ -77,6 +81,18 @@ private:
 class CMyGameDataEn final : public IMyGameDataEn {
 public:
     int GetRegisterArg() override { return host::GetDataInt("gamedata.registerarg", 0); }
+    bool IsNationalityUsed() override {
+        return host::HasData("nationality") && host::GetData("nationality") != "off";
+    }
+    // "nationality ID PICTURE": the current nationality and its record's picture; an id alone has no record.
+    bool GetNationalityPicture(CZrString& strPicture) override {
+        if (!IsNationalityUsed()) return false;
+        const std::string value = host::GetData("nationality");
+        const std::size_t blank = value.find(' ');
+        if (blank == std::string::npos || blank + 1 >= value.size()) return false;
+        strPicture = CZrString(value.substr(blank + 1));
+        return true;
+    }
 };
 class CMyGameData final : public IMyGameData {
     static constexpr const char* RECORD_FILE = "ini/GameData.ini";

@@ -236,7 +236,8 @@ CLuDialog* CGuiMgr::DialogAt(POINT pt) const {
     for (auto it = m_vecDialogs.rbegin(); it != m_vecDialogs.rend(); ++it) {
         CLuDialog* pDialog = *it;
         if (!pDialog->IsWindowVisible() || !pDialog->IsWindowEnabled() || pDialog->IsHideState()) continue;
-        if (pDialog->HitTest(pt) || CLuToolkit::ControlAt(*pDialog, pt, true)) return pDialog;
+        if (CLuToolkit::ControlAt(*pDialog, pt, true)) return pDialog;
+        if (pDialog->HitTest(pt) && !pDialog->IsClickThrough()) return pDialog;
     }
     return nullptr;
 }
@@ -283,6 +284,12 @@ LRESULT CGuiMgr::MsgProc(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM lParam) {
         const POINT pt{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
         const bool bCaptured = m_pCaptureDialog && (uMsg == WM_MOUSEMOVE || uMsg == WM_LBUTTONUP);
         pTarget = bCaptured ? m_pCaptureDialog : DialogAt(pt);
+        if (uMsg == WM_LBUTTONDOWN && pTarget && pTarget->IsOpenInactive()) {
+            // NOTE: a press into a dialog still waiting for its activation activates it first, so that the
+            // press acts (its controls are enabled by the activation).
+            std::erase_if(m_vecPending, [&](const SPendingActivation& p) { return p.pDialog == pTarget; });
+            CLuToolkit::Activate(*pTarget);
+        }
         if (uMsg == WM_LBUTTONDOWN) {
             NotifyLostFocus(pTarget);
             m_pCaptureDialog = pTarget;

@@ -55,6 +55,10 @@ public:
     /// The dialog that receives a press at a screen point, null when none (for the host's inspection).
     CLuDialog* DialogUnder(POINT pt) const { return DialogAt(pt); }
 
+    /// The top-most visible, enabled dialog under a screen point (a dialog counts where it or one of its
+    /// controls lies; a click-through dialog only where one of its controls lies).
+    CLuDialog* DialogAt(POINT pt) const;
+
 private:
     ~CGuiMgr();
 
@@ -70,9 +74,6 @@ private:
 
     /// What every Init does before reading the layout: the journal line and the host's window.
     void BeginInit(std::uint64_t hHost, const std::string& strFile);
-    /// The top-most visible, enabled dialog under a screen point (a dialog counts where it or one of its
-    /// controls lies).
-    CLuDialog* DialogAt(POINT pt) const;
     /// Where keyboard messages go: the focused edit's dialog, else the dialog last pressed, else the top-most
     /// visible one.
     CLuDialog* KeyboardTarget();

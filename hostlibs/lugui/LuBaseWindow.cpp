@@ -7,6 +7,7 @@
 
 #include "GameGraphic.h"
 #include "Gui3DEffect.h"
+#include "GuiMgr.h"
 #include "Input.h"
 #include "LayoutFile.h"
 #include "LuDialog.h"
@@ -141,10 +142,18 @@ BOOL CLuBaseWindow::EnableWindow(BOOL bEnable) {
     return bWasDisabled ? TRUE : FALSE;
 }
 
+bool CLuBaseWindow::IsCoveredAt(POINT ptScreen) const {
+    const CGuiMgr* pMgr = CLuToolkit::Manager(*this);
+    const CLuBaseWindow* pOwner = m_pParent ? static_cast<const CLuBaseWindow*>(m_pParent) : this;
+    if (!pMgr) return false;
+    const CLuDialog* pTop = pMgr->DialogAt(ptScreen);
+    return pTop && static_cast<const CLuBaseWindow*>(pTop) != pOwner;
+}
+
 void CLuBaseWindow::ProcessMouseMove() {
     POINT pt{};
     GetCursorPos(&pt);
-    m_bHover = m_bEnabled && HitTest(pt);
+    m_bHover = m_bEnabled && HitTest(pt) && !IsCoveredAt(pt);
 }
 
 // ---- background and effects ----------------------------------------------------------------------

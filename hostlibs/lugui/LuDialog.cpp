@@ -53,6 +53,7 @@ CLuDialog::~CLuDialog() {
 BOOL CLuDialog::PreInitData() {
     if (m_pLayout) {
         m_bTopMost = m_pLayout->GetInt("TopMost", 0) != 0;
+        m_bClickThrough = m_pLayout->GetInt("ClickThrough", 0) != 0;
         m_dwOpenInactiveMs = static_cast<DWORD>(std::max(0, m_pLayout->GetInt("OpenInactive", 0)));
     }
     return TRUE;

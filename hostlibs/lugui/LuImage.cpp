@@ -12,4 +12,8 @@ int CLuImage::Show() {
     return 1;
 }
 
+void CLuImage::OnClicked() {
+    if (m_bClickable) NotifyParent(WM_COMMAND, 0);
+}
+
 } // namespace LuGui

@@ -41,3 +41,21 @@ void DXSetMusicVolume(int nVolume, const char* szSettingName) {
 void ProcressSound() {
     host::Count("sound.process");
 }
+
+namespace {
+constexpr int DEFAULT_SOUND_VOLUME = 60;
+}
+
+int DXGetSoundVolume() {
+    return host::GetDataInt("volume", DEFAULT_SOUND_VOLUME);
+}
+
+void DXSetSoundVolume(int nVolume, const char* szSettingName) {
+    host::SetData("volume", std::to_string(nVolume));
+    host::Journal("sound.effectvolume",
+                  {{"setting", szSettingName ? szSettingName : ""}, {"volume", std::to_string(nVolume)}});
+}
+
+void DXCloseAllSound(const char* szReason) {
+    host::Journal("sound.closeall", {{"reason", szReason ? szReason : ""}});
+}

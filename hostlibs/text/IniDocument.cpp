@@ -74,6 +74,11 @@ void IniDocument::ParseLine(std::string_view line, int nLine, IniRules rules, SC
                                                               : IniIssue::Kind::EmptySectionName;
             m_issues.push_back({kind, nLine, std::string(name)});
             cursor = SCursor{};
+            if (rules.sections == IniSectionRepeat::Separate) {
+                // NOTE: a block reader must see that a title was there and could not be read.
+                cursor.section = m_sections.size();
+                m_sections.push_back(NewSection({}, nLine));
+            }
             return;
         }
         OpenSection(name, nLine, rules.sections, cursor);
@@ -100,6 +105,12 @@ void IniDocument::ParseLine(std::string_view line, int nLine, IniRules rules, SC
 void IniDocument::OpenSection(std::string_view name, int nLine, IniSectionRepeat rule, SCursor& cursor) {
     const auto [it, inserted] = m_index.try_emplace(LowerAscii(name), m_sections.size());
     cursor = SCursor{it->second, false};
+    if (!inserted && rule == IniSectionRepeat::Separate) {
+        m_issues.push_back({IniIssue::Kind::RepeatedSection, nLine, std::string(name)});
+        cursor.section = m_sections.size();
+        m_sections.push_back(NewSection(name, nLine));
+        return;
+    }
     if (inserted) {
         m_sections.push_back(NewSection(name, nLine));
         return;
@@ -117,6 +128,10 @@ void IniDocument::AddEntry(IniSection& section, std::string_view key, std::strin
     const auto [it, inserted] = section.m_index.try_emplace(LowerAscii(key), section.entries.size());
     if (!inserted) {
         m_issues.push_back({IniIssue::Kind::RepeatedKey, nLine, std::string(key)});
+        if (rule == IniKeyRepeat::KeepAll) {
+            section.entries.push_back(IniEntry{std::string(key), std::string(value), nLine});
+            return;
+        }
         if (rule == IniKeyRepeat::FirstWins) return;
         // NOTE: the earlier entry is only marked here and dropped in Compact, so that many repeats stay
         // linear.

@@ -15,11 +15,14 @@ enum class IniSectionRepeat {
     Merge,     ///< the keys of the repeat join the first section
     FirstWins, ///< the repeat and its keys are ignored
     LastWins,  ///< the repeat replaces the earlier section and its keys
+    Separate,  ///< the repeat is a section of its own (lookups by name find the first); a title line that
+               ///< cannot be read opens a section without a name
 };
 /// What a format does with a key that comes again in a section (keys match without regard to case).
 enum class IniKeyRepeat {
     FirstWins, ///< the later value is ignored
     LastWins,  ///< the later value replaces the earlier one and the key moves to the later place
+    KeepAll,   ///< every line is kept in file order; lookups by key find the first
 };
 
 struct IniRules {
@@ -31,6 +34,8 @@ struct IniRules {
 inline constexpr IniRules PROFILE_RULES{IniSectionRepeat::Merge, IniKeyRepeat::FirstWins};
 /// The widget toolkit's layout file: the first occurrence counts (the rest is reported).
 inline constexpr IniRules LAYOUT_RULES{IniSectionRepeat::FirstWins, IniKeyRepeat::FirstWins};
+/// Block files (the base library's CZrIni blocks): every title and every line as written.
+inline constexpr IniRules BLOCK_RULES{IniSectionRepeat::Separate, IniKeyRepeat::KeepAll};
 /// Animation index files: the first title of a name counts, a later frame line replaces an earlier one.
 inline constexpr IniRules ANIMATION_INDEX_RULES{IniSectionRepeat::FirstWins, IniKeyRepeat::LastWins};
 

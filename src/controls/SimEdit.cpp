@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <string_view>
 
 #include "platform/GameData.h"
 #include "platform/Graphics.h"
@@ -112,4 +113,32 @@ void CSimEdit::SetLostFocusTip(const char* szTip) {
 void CSimEdit::SetLostFocusTipOffset(int x, int y) {
     m_nTipOffsetX = x;
     m_nTipOffsetY = y;
+}
+
+namespace {
+constexpr int MAX_UTF8_BYTES = 4;
+
+int CountCharacters(std::string_view text) {
+    int nCount = 0;
+    for (const char c : text) nCount += (static_cast<unsigned char>(c) & 0xC0) != 0x80 ? 1 : 0;
+    return nCount;
+}
+} // namespace
+
+void CSimEdit::SetLimitChars(int nChars) {
+    m_nLimitChars = std::max(0, nChars);
+    if (m_nLimitChars > 0) SetLimitText(m_nLimitChars * MAX_UTF8_BYTES);
+}
+
+void CSimEdit::OnChar(UINT nChar, UINT nRepCnt, UINT nFlags) {
+    const bool bPrintable = nChar >= 0x20 && nChar != 0x7F && !(nChar >= 0xDC00 && nChar <= 0xDFFF);
+    if (m_nLimitChars > 0 && bPrintable) {
+        const DWORD dwSel = GetSel();
+        const std::string_view text = GetWindowTextA();
+        const auto nStart = std::min<std::size_t>(LOWORD(dwSel), text.size());
+        const auto nEnd = std::min<std::size_t>(std::max<std::size_t>(HIWORD(dwSel), nStart), text.size());
+        const int nKept = CountCharacters(text.substr(0, nStart)) + CountCharacters(text.substr(nEnd));
+        if (nKept >= m_nLimitChars) return;
+    }
+    LuGui::CLuEdit::OnChar(nChar, nRepCnt, nFlags);
 }

@@ -28,6 +28,10 @@ public:
     /// The text as UTF-16, at most nSize - 1 units, terminated; returns the units copied.
     int GetWindowTextW(char16_t* szBuf, int nSize) const;
     void SetLostFocusTip(const char* szTip);
+    /// Limits the text to nChars characters (the toolkit's SetLimitText counts bytes); 0 lifts it.
+    void SetLimitChars(int nChars);
+    /// Typing past the character limit is dropped.
+    void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags) override;
     void SetLostFocusTipOffset(int x, int y);
 
     int GetSelAnchor() const { return m_nSelAnchor; }
@@ -37,6 +41,7 @@ private:
     /// Byte length of the text as the selection reads it (at most 1023 bytes).
     int TextLength() const;
 
+    int m_nLimitChars = 0;
     int m_nSelAnchor = 0;
     int m_nSelCaret = 0;
     CZrString m_strLostFocusTip;

@@ -5,12 +5,24 @@
 #include <cstdint>
 
 #include "BaseLib.h"
+#include "ZrString.h"
+
+/// A creation record of the game data: what a profession and sex look like in the creation preview.
+struct SRoleCreateRecord {
+    static constexpr int PART_COUNT = 8;
+    int nLook = 0;
+    int nParts[PART_COUNT] = {};
+    int nScalePercent = 100;
+    CZrString strDescription;
+};
 
 /// The role data object (`RoleDataQuery`).
 class IRoleData {
 public:
     /// Plays a sound the sound library cannot play itself, by its game-data name.
     virtual void PlaySoundByName(const char* szName) = 0;
+    /// The creation record of key profession + sex; false when there is none.
+    virtual bool GetCreateRecord(int nKey, SRoleCreateRecord& record) = 0;
 
 protected:
     ~IRoleData() = default;
@@ -72,6 +84,10 @@ class IMyGameDataEn {
 public:
     /// The integer the account-creation address is formatted with.
     virtual int GetRegisterArg() = 0;
+    /// Whether the client uses nationalities.
+    virtual bool IsNationalityUsed() = 0;
+    /// The picture name of the current nationality's record; false when there is no such record.
+    virtual bool GetNationalityPicture(CZrString& strPicture) = 0;
 
 protected:
     ~IMyGameDataEn() = default;

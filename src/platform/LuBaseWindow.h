@@ -171,6 +171,8 @@ protected:
     virtual void ShowBackGround();
     /// Updates the hover state from the cursor position.
     void ProcessMouseMove();
+    /// Whether another dialog takes the mouse at this screen point (a covered window does not light up).
+    bool IsCoveredAt(POINT ptScreen) const;
     /// Origin of the parent's client area on the screen ((0, 0) for dialogs).
     POINT GetParentOrigin() const;
 

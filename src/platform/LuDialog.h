@@ -85,6 +85,9 @@ public:
     bool IsOpenInactive() const { return m_bInactive; }
     /// Whether the dialog stays above the others (layout key "TopMost").
     bool IsTopMost() const { return m_bTopMost; }
+    /// Layout key "ClickThrough": the mouse reaches the dialogs below wherever this one has no control (a
+    /// panel drawn over a screen whose own controls stay usable).
+    bool IsClickThrough() const { return m_bClickThrough; }
 
     /// The bound control with that id (GetDlgItem), null when none is bound.
     CLuCtrl* GetControl(UINT nId) const;
@@ -113,6 +116,7 @@ private:
     std::vector<SMsgEntry> m_vecMsgMap;
     CLuCtrl* m_pCapture = nullptr;
     bool m_bTopMost = false;
+    bool m_bClickThrough = false;
     bool m_bInactive = false;
     DWORD m_dwOpenInactiveMs = 0;
 };

@@ -15,6 +15,14 @@ public:
     int Show() override;
     /// The image's own picture (the toolkit's image draws none beyond its background).
     virtual void DrawImage() {}
+    /// A clickable image sends command 273 on a click like a button (face pictures); other images take
+    /// presses silently.
+    void SetClickable(bool bClickable) { m_bClickable = bClickable; }
+    bool IsClickable() const { return m_bClickable; }
+    void OnClicked() override;
+
+private:
+    bool m_bClickable = false;
 };
 
 } // namespace LuGui

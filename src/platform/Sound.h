@@ -19,3 +19,9 @@ bool DXPlayMedia(const char* szName, int nRepeat, const char* szName2, bool bFla
 void DXSetMusicVolume(int nVolume, const char* szSettingName);
 /// Advances the sound library by one frame.
 void ProcressSound();
+/// The sound-effect volume (0 to 100).
+int DXGetSoundVolume();
+/// Sets the sound-effect volume under a setting name.
+void DXSetSoundVolume(int nVolume, const char* szSettingName);
+/// Stops every playing sound; szReason names the caller's step.
+void DXCloseAllSound(const char* szReason);

@@ -32,7 +32,34 @@ public:
     /// The keys of a section in file order, as spelled; empty when there is no such section.
     std::vector<std::string> GetKeys(const char* szSection) const;
 
-private:
+    // ---- blocks ----------------------------------------------------------------------------------
+    // A block file is read with OpenBlocks: "[Title]" lines open blocks, "Key=Value" lines follow (blanks
+    // around both dropped; ";" and "#" start comments). Unlike the profile reading above, a repeated title
+    // is a block of its own and every line is kept, a repeated key too. ReadBlock steps through the blocks.
+
+    /// Reads a block file below the client directory; false when it cannot be read.
+    bool OpenBlocks(const char* szFile);
+    /// Reads block-file text held in memory.
+    void OpenBlocksText(std::string_view text);
+    /// Moves to the next block (the first after opening); false when there is none.
+    bool ReadBlock();
+    /// Copies the current block's title (at most nSize - 1 bytes); false when its title line could not be
+    /// read ("[" without "]", or "[]") or there is no current block.
+    bool GetBlockTitle(char* szBuf, int nSize) const;
+    /// The first value of a key in the current block, read with SafeAtoi; false when the key is absent.
+    bool GetBlockValueInt(const char* szKey, int& nValue) const;
+    /// Number of key-value lines of the current block.
+    int GetBlockLineAmount() const;
+    /// Key and value of line nIndex of the current block (valid until the next open); false out of range.
+    bool GetBlockLineByIndexKV(int nIndex, const char*& szKey, const char*& szValue) const;
+    /// Lines the reader could not take (no "=", no key, outside any block) and the first such line number
+    /// (0 when none), so that a caller can name the fault once.
+    int GetSkippedLineCount() const;
+    int GetFirstSkippedLine() const;
+
+    /// The reader's insides, defined by the base library.
     struct SData;
+
+private:
     std::unique_ptr<SData> m_pData;
 };

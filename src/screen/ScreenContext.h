@@ -26,6 +26,18 @@ enum ELoginStep : int {
     LOGIN_STEP_MAIN_LOGIN = 4,
 };
 
+/// The server facts of SetCreateRoleParam as stored (a forced type 7 to 13 stores the first four as 0).
+struct SCreateRoleParam {
+    std::int32_t nNewServer = 0;
+    std::int32_t nSwitchA = 0;
+    std::int32_t nSwitchB = 0;
+    std::int32_t nArcher = 0;
+    std::int32_t nForcedType = 0; ///< 7 to 13, or 0
+    bool bSceneSelect = false;
+    std::int32_t nExtra1 = 0;
+    std::int32_t nExtra2 = 0;
+};
+
 /// Events the simulator sends to every subscribed screen piece; a listener decides whether it is visible
 /// enough to care.
 class IScreenListener {
@@ -147,6 +159,13 @@ public:
     virtual void RefreshServerLabel() = 0;
     /// Opens the server role list for a group and server.
     virtual void ShowServerRoleList(int nGroup, int nServer) = 0;
+
+    // ---- character creation ----
+    virtual const SCreateRoleParam& GetCreateRoleParam() const = 0;
+    /// The selected server's record exists and has its achievement tip set (bAchTips).
+    virtual bool IsSelectedServerAchTips() const = 0;
+    /// Profession 70 may be created ("DarkKnightCanCrate").
+    virtual bool IsDarkKnightAllowed() const = 0;
 
     // ---- events ----
     /// The listener must stay alive until RemoveListener or the simulator's end.

@@ -13,6 +13,12 @@ CDialogSet::CDialogSet() {
     m_dlgWebRegister.SetBrowser(&m_webBrowser);
 }
 
+CDialogSet::CDialogSet() {
+    m_dlgCreateRole.Link(&m_dlgSelectPro, &m_dlgSelectHead);
+    m_dlgSelectPro.Link(&m_dlgCreateRole, &m_dlgSelectHead);
+    m_dlgSelectHead.Link(&m_dlgSelectPro);
+}
+
 std::array<CSimDialog*, CDialogSet::REGISTRATIONS> CDialogSet::RegistrationOrder() {
     // NOTE: the role-creation dialog is registered twice (fifth and tenth); the manager decides what that
     // means.

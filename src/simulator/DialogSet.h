@@ -33,6 +33,7 @@
 
 class CDialogSet {
 public:
+    /// Links the dialogs of the standard creation layout to each other.
     CDialogSet();
     CDialogSet(const CDialogSet&) = delete;
     CDialogSet& operator=(const CDialogSet&) = delete;

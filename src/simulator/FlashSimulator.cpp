@@ -264,8 +264,15 @@ void CFlashSimulator::SetCreateRoleParam(std::int32_t nNewServer, std::int32_t n
     m_state.m_nNewServer = nNewServer;
     m_state.m_nSwitchA = nSwitchA;
     m_state.m_nSwitchB = nSwitchB;
-    // NOTE: passed to the profession dialog and column once they exist (docs/STATUS.md).
-    (void)nArcher;
+    m_state.m_createRoleParam = SCreateRoleParam{
+        nNewServer, nSwitchA, nSwitchB, nArcher, m_state.m_nForcedType, bSceneSelect, nExtra1, nExtra2};
+    m_pDialogs->m_dlgSelectPro.SetServerInfo(nNewServer, nSwitchA > 0 && IsSelectedServerAchTips(),
+                                             nSwitchB > 0, nArcher > 0);
+}
+
+bool CFlashSimulator::IsSelectedServerAchTips() const {
+    const SServerItem* pServer = m_lists.GetServer(m_state.m_nGroup, m_state.m_nServer);
+    return pServer && pServer->bAchTips;
 }
 
 // The forced profession type as a column index: 8, 7, 11, 9, 10, 12, 13 give 0 to 6; anything else 0.

@@ -128,6 +128,9 @@ public:
     void ShowChosenServer(int nGroup, int nServer) override;
     void RefreshServerLabel() override;
     void ShowServerRoleList(int nGroup, int nServer) override;
+    const SCreateRoleParam& GetCreateRoleParam() const override { return m_state.m_createRoleParam; }
+    bool IsSelectedServerAchTips() const override;
+    bool IsDarkKnightAllowed() const override { return m_state.m_bDarkKnight; }
     void AddListener(IScreenListener* pListener) override;
     void RemoveListener(IScreenListener* pListener) override;
 

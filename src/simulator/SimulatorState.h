@@ -52,6 +52,7 @@ struct SSimulatorState {
     std::int32_t m_nForcedType = 0;
     std::int32_t m_nExtra1 = 0;
     std::int32_t m_nExtra2 = 0;
+    SCreateRoleParam m_createRoleParam; ///< the same facts as stored, as the creation screens read them
     bool m_bSelSet = false;
     std::int32_t m_nSelFirst = 0;
     std::int32_t m_nSelSecond = 0;

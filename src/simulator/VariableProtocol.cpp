@@ -293,8 +293,9 @@ void VarRoleSetMainPath(CFlashSimulator& sim, const char* szValue) {
     if (sim.GetGuiMgr()) sim.GetGuiMgr()->Reset(0);
     const bool bInternational = EqualsNoCase(RoleDataQueryEx()->GetLanguageName(), "English");
     if (!bInternational) {
+        // Showing runs the creation dialog's start (OnInitDialog), which selects a profession again.
         sim.Dialogs().m_dlgCreateRole.ShowWindow(SW_SHOW);
-        // NOTE: the creation dialog's start operation runs here once that screen exists (docs/STATUS.md).
+        sim.Dialogs().m_dlgCreateRole.ShowCreationControls(true);
         return;
     }
     const auto v = textscan::ReadIntsSeparated(szValue, '-', 3);
@@ -315,8 +316,10 @@ void VarShowCreateWnd(CFlashSimulator& sim, const char* szValue) {
     if (EqualsNoCase(szValue, "1")) {
         if (bInternational)
             sim.Dialogs().m_dlgAction.ShowWindow(SW_SHOW);
-        else
+        else {
             sim.Dialogs().m_dlgSelectPro.ShowWindow(SW_SHOW);
+            sim.Dialogs().m_dlgCreateRole.ShowCreationControls(true);
+        }
         return;
     }
     if (!EqualsNoCase(szValue, "0")) return;
@@ -326,8 +329,10 @@ void VarShowCreateWnd(CFlashSimulator& sim, const char* szValue) {
         sim.Dialogs().m_dlgProIntro.ShowWindow(SW_HIDE);
         sim.Dialogs().m_dlgBack.ShowWindow(SW_HIDE);
     } else {
+        sim.Dialogs().m_dlgSelectPro.ClearEffects();
         sim.Dialogs().m_dlgSelectHead.ShowWindow(SW_HIDE);
         sim.Dialogs().m_dlgSelectPro.ShowWindow(SW_HIDE);
+        sim.Dialogs().m_dlgCreateRole.ShowCreationControls(false);
     }
     sim.Dialogs().m_dlgSceneSelect.ShowWindow(SW_HIDE);
 }

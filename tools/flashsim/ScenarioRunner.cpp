@@ -374,6 +374,13 @@ void ScenarioRunner::StepHost(const ScenarioStep& step) {
         if (!size) return Fail(step, "host screen takes WxH: " + reason);
         return host::SetScreenSize(size->cx, size->cy);
     }
+    // NOTE: keys that hold one value per id ("roledata KEY ...", "action ID MS") are stored as KEY.ID, so
+    // that a scenario can set several.
+    if (key == "roledata" || key == "action") {
+        const std::size_t blank = value.find(' ');
+        if (blank == std::string::npos) return Fail(step, "host " + key + " takes ID VALUE");
+        return host::SetData(key + "." + value.substr(0, blank), value.substr(blank + 1));
+    }
     host::SetData(key, value);
 }
 
