@@ -11,9 +11,7 @@ static_assert(CDlgFlashLoginEn::IDD_ROLE_LIST == CDlgFlashCharacterEn::IDD);
 CDialogSet::CDialogSet() {
     // The registration dialog hosts the simulator's one browser, a member declared after it.
     m_dlgWebRegister.SetBrowser(&m_webBrowser);
-}
-
-CDialogSet::CDialogSet() {
+    // The dialogs of the standard creation layout reach each other directly.
     m_dlgCreateRole.Link(&m_dlgSelectPro, &m_dlgSelectHead);
     m_dlgSelectPro.Link(&m_dlgCreateRole, &m_dlgSelectHead);
     m_dlgSelectHead.Link(&m_dlgSelectPro);

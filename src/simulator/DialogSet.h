@@ -33,7 +33,7 @@
 
 class CDialogSet {
 public:
-    /// Links the dialogs of the standard creation layout to each other.
+    /// Gives the registration dialog its browser and links the dialogs of the standard creation layout.
     CDialogSet();
     CDialogSet(const CDialogSet&) = delete;
     CDialogSet& operator=(const CDialogSet&) = delete;
