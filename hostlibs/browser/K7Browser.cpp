@@ -184,24 +184,6 @@ void K7Browser_OSR_Buffer_Get_End(K7BROWSER hPage) {
 
 namespace host {
 
-std::string EscapeTranscriptText(const std::string& text) {
-    static const char* const HEX = "0123456789ABCDEF";
-    std::string out;
-    for (unsigned char c : text) {
-        if (c == '\\' || c == '"') {
-            out += '\\';
-            out += static_cast<char>(c);
-        } else if (c < 0x20 || c >= 0x7F) {
-            out += "\\x";
-            out += HEX[c >> 4];
-            out += HEX[c & 0xF];
-        } else {
-            out += static_cast<char>(c);
-        }
-    }
-    return out;
-}
-
 void RegisterBrowserEngine(const std::string& name, BrowserEngineFactory factory) {
     EngineFactory(name); // the default engine first, so that a replacement of it sticks
     SLibrary& lib = Library();

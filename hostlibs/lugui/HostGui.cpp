@@ -8,29 +8,10 @@
 #include "LuGui_internal.h"
 #include "LuList.h"
 #include "LuProgress.h"
+#include "hostlibs/HostEnv.h"
 
 namespace host {
 namespace {
-
-std::string Escape(const std::string& text) {
-    static const char* const HEX = "0123456789ABCDEF";
-    std::string out;
-    for (unsigned char c : text) {
-        if (c == '\\' || c == '"') {
-            out += '\\';
-            out += static_cast<char>(c);
-        } else if (c == '\n') {
-            out += "\\n";
-        } else if (c < 0x20 || c >= 0x7F) {
-            out += "\\x";
-            out += HEX[c >> 4];
-            out += HEX[c & 0xF];
-        } else {
-            out += static_cast<char>(c);
-        }
-    }
-    return out;
-}
 
 void FillCommon(const LuGui::CLuBaseWindow& wnd, WindowState& out) {
     out.visible = wnd.IsWindowVisible() != FALSE;
@@ -50,8 +31,9 @@ LuGui::CLuDialog* FindDialog(UINT nDialog) {
 
 std::string WindowState::Describe() const {
     std::string line = "visible=" + std::to_string(visible ? 1 : 0) +
-                       " enabled=" + std::to_string(enabled ? 1 : 0) + " text=\"" + Escape(text) +
-                       "\" bg=\"" + Escape(bg) + "\" checked=" + (checked ? "1" : "0");
+                       " enabled=" + std::to_string(enabled ? 1 : 0) + " text=\"" +
+                       EscapeTranscriptText(text) + "\" bg=\"" + EscapeTranscriptText(bg) +
+                       "\" checked=" + (checked ? "1" : "0");
     if (kind == "Edit")
         line += " sel=" + std::to_string(selStart) + "," + std::to_string(selEnd) +
                 " focus=" + (focus ? "1" : "0");

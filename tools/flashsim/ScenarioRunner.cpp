@@ -35,8 +35,8 @@ IFlashSimulator* g_pAnsweringSim = nullptr;
 
 void PrintCommand(const char* prefix, const char* szCommand, const char* szArgument) {
     if (!g_pTranscript) return;
-    g_pTranscript->Line(std::string(prefix) + " " + EscapeText(szCommand ? szCommand : "") + " \"" +
-                        EscapeText(szArgument ? szArgument : "") + "\"");
+    g_pTranscript->Line(std::string(prefix) + " " + host::EscapeTranscriptText(szCommand ? szCommand : "") +
+                        " \"" + host::EscapeTranscriptText(szArgument ? szArgument : "") + "\"");
 }
 
 void OnPrimaryCommand(const char* szCommand, const char* szArgument) {
@@ -54,13 +54,13 @@ void OnSecondaryCommand(const char* szCommand, const char* szArgument) {
 }
 
 std::string LogValue(const std::string& value) {
-    const std::string escaped = EscapeText(value);
+    const std::string escaped = host::EscapeTranscriptText(value);
     if (escaped.empty() || escaped.find(' ') != std::string::npos) return "\"" + escaped + "\"";
     return escaped;
 }
 
 std::string FormatLogLine(const host::LogRecord& record) {
-    std::string line = "! " + record.level + " " + EscapeText(record.message);
+    std::string line = "! " + record.level + " " + host::EscapeTranscriptText(record.message);
     for (const auto& [key, value] : record.keys) line += " " + key + "=" + LogValue(value);
     return line;
 }
@@ -181,7 +181,7 @@ void ScenarioRunner::Execute(const ScenarioStep& step) {
     if (name == "msg") return StepMsg(step);
     if (name == "ime") return StepIme(step);
     if (name == "browser") return StepBrowser(step);
-    Fail(step, "unknown step \"" + EscapeText(name) + "\"");
+    Fail(step, "unknown step \"" + host::EscapeTranscriptText(name) + "\"");
 }
 
 // ---- steps -----------------------------------------------------------------------------------------
@@ -307,7 +307,8 @@ void ScenarioRunner::StepGet(const ScenarioStep& step) {
     if (step.words.size() != 2) return Fail(step, "get takes NAME");
     const std::string name = UnescapeValue(step.words[1]);
     const char* value = m_pSim->GetVariable(name.c_str());
-    m_transcript.Line("< " + EscapeText(name) + " = " + (value ? EscapeText(value) : std::string("(null)")));
+    m_transcript.Line("< " + host::EscapeTranscriptText(name) + " = " +
+                      (value ? host::EscapeTranscriptText(value) : std::string("(null)")));
 }
 
 void ScenarioRunner::StepCall(const ScenarioStep& step) {
@@ -316,9 +317,11 @@ void ScenarioRunner::StepCall(const ScenarioStep& step) {
     std::vector<std::string> args;
     for (std::size_t i = 2; i < step.words.size(); ++i) args.push_back(UnescapeValue(step.words[i]));
     const CallOutcome outcome = CallInterface(*m_pSim, step.words[1], args);
-    if (!outcome.bKnown) return Fail(step, "no operation \"" + EscapeText(step.words[1]) + "\"");
+    if (!outcome.bKnown)
+        return Fail(step, "no operation \"" + host::EscapeTranscriptText(step.words[1]) + "\"");
     if (!outcome.error.empty()) return Fail(step, outcome.error);
-    if (outcome.result) m_transcript.Line("< " + step.words[1] + " = " + EscapeText(*outcome.result));
+    if (outcome.result)
+        m_transcript.Line("< " + step.words[1] + " = " + host::EscapeTranscriptText(*outcome.result));
 }
 
 void ScenarioRunner::StepFrame(const ScenarioStep& step) {

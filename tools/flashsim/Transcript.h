@@ -5,10 +5,6 @@
 #include <string_view>
 #include <vector>
 
-/// Escapes a text for the transcript: backslash as "\\", newline as "\n", quotes and bytes outside printable
-/// ASCII as "\xHH".
-std::string EscapeText(std::string_view text);
-
 /// What a transcript line is, for the comparison with an expected transcript.
 enum class ELineKind {
     Event,       ///< everything a step prints; always compared

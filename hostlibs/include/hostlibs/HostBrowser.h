@@ -54,9 +54,6 @@ using BrowserEngineFactory = std::function<std::unique_ptr<IBrowserEngineView>(c
 /// declines every page).
 void RegisterBrowserEngine(const std::string& name, BrowserEngineFactory factory);
 
-/// Quotes and backslashes escaped, bytes outside printable ASCII as \xHH: a value of a transcript line.
-std::string EscapeTranscriptText(const std::string& text);
-
 /// The calls the system made since the last call of this function, one `= browser.in op=...` line each.
 std::vector<std::string> TakeBrowserCalls();
 /// `open= shown= frames= rects= text= caret= ime=X,Y crc= account= switch= centre=X,Y` for the newest page.

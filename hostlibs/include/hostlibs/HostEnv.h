@@ -67,6 +67,10 @@ std::uint64_t DataVersion();
 void SetCursor(int x, int y);
 void SetKeyDown(int nVirtKey, bool bDown);
 
+/// A value of a transcript line: backslash as \\, newline as \n, quotes and bytes outside printable ASCII as
+/// \xHH.
+std::string EscapeTranscriptText(std::string_view text);
+
 /// Test-only: clock, calendar, screen, host data, journal counts and the sink back to their start values.
 void ResetForTest();
 
