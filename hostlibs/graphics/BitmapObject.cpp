@@ -9,14 +9,22 @@
 #include "GraphicsState.h"
 #include "ImageDecoder.h"
 
+// NOTE: the AVX2 clone is chosen by an IFUNC resolver while the dynamic loader relocates the library, before
+// ThreadSanitizer's runtime is up; a ThreadSanitizer build crashes there, so it keeps the plain version.
+#if defined(__SANITIZE_THREAD__)
+#define ROW_COPY_CLONES
+#else
+#define ROW_COPY_CLONES __attribute__((target_clones("avx2", "default")))
+#endif
+
 namespace gfx {
 namespace {
 constexpr int BYTES_PER_PIXEL = 4;
 
 // One row from BGRA to RGBA: each pixel as one 32-bit word with its first and third bytes exchanged, which
 // the compiler turns into vector shuffles (a copy runs close to memcpy's speed).
-__attribute__((target_clones("avx2", "default"))) void
-SwapRedBlue(const std::uint8_t* __restrict from, std::uint8_t* __restrict to, std::size_t nPixels) {
+ROW_COPY_CLONES void SwapRedBlue(const std::uint8_t* __restrict from, std::uint8_t* __restrict to,
+                                 std::size_t nPixels) {
     for (std::size_t i = 0; i < nPixels; ++i) {
         std::uint32_t v;
         std::memcpy(&v, from + i * BYTES_PER_PIXEL, sizeof v);

@@ -13,6 +13,7 @@
 #include "platform/MyAni.h"
 #include "resources/TextScan.h"
 #include "screen/LayoutNumbers.h"
+#include "screen/PanelFrame.h"
 #include "screen/ScreenContext.h"
 
 namespace {
@@ -24,18 +25,10 @@ constexpr std::array<int, 5> PLACEMENT_DEFAULTS = {24, 45, 45, 2, 15};
 constexpr std::size_t PLACEMENT_EXTRA_WIDTH = 0;
 constexpr std::size_t PLACEMENT_EXTRA_HEIGHT = 1;
 constexpr std::size_t PLACEMENT_LIFT = 4;
-
-// The nine-grid background reaches past the dialog by these margins.
-constexpr int BACKGROUND_LEFT = 9;
-constexpr int BACKGROUND_TOP = 15;
-constexpr int BACKGROUND_EXTRA_WIDTH = 19;
-constexpr int BACKGROUND_EXTRA_HEIGHT = 25;
 } // namespace
 
 CDlgScanCodeLoginEn::CDlgScanCodeLoginEn() : CSimDialog(IDD), m_renderer(PICTURE_FILE, LOCK_FAIL_TEXT) {
-    // The panel's frame lies around the dialog; its clip must not cut it.
-    SetDrawMargin(RECT{BACKGROUND_LEFT, BACKGROUND_TOP, BACKGROUND_EXTRA_WIDTH - BACKGROUND_LEFT,
-                       BACKGROUND_EXTRA_HEIGHT - BACKGROUND_TOP});
+    SetDrawMargin(panelframe::MARGIN);
 }
 
 CDlgScanCodeLoginEn::~CDlgScanCodeLoginEn() = default;
@@ -163,10 +156,7 @@ void CDlgScanCodeLoginEn::SetQRKey(const char* szKey, int nScale) {
 int CDlgScanCodeLoginEn::Show() {
     const int nResult = CSimDialog::Show();
     if (!nResult) return nResult;
-    if (QueryMyAniMgr()->HasAni(CONTROL_ANI_FILE, BACKGROUND))
-        CGameGraphic::ShowNineImageBackGround(BACKGROUND, m_nPosX - BACKGROUND_LEFT, m_nPosY - BACKGROUND_TOP,
-                                              GetWidth() + BACKGROUND_EXTRA_WIDTH,
-                                              GetHeight() + BACKGROUND_EXTRA_HEIGHT);
+    panelframe::Draw(*this, m_nPosX, m_nPosY);
     // The controls again, over the background, in this order.
     for (LuGui::CLuBaseWindow* pControl :
          std::array<LuGui::CLuBaseWindow*, 7>{&m_btnClose, &m_staTitle, &m_staHint, &m_btnDownload,

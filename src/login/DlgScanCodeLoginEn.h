@@ -39,7 +39,6 @@ public:
 
     static constexpr const char* PICTURE_FILE = "k7pack/data/ScanCodeLogin.bmp";
     static constexpr const char* LOCK_FAIL_TEXT = "GlobalLock fail";
-    static constexpr const char* BACKGROUND = "Padre_BgSudokuBG";
     static constexpr const char* EXPIRED_ANI = "enqrlogin_qrerror";
 
     /// States of the code.

@@ -12,6 +12,7 @@
 #include "platform/Log.h"
 #include "platform/MyAni.h"
 #include "resources/TextScan.h"
+#include "screen/PanelFrame.h"
 #include "screen/ScreenContext.h"
 
 namespace {
@@ -26,12 +27,6 @@ constexpr std::size_t FRAME_CLOSE_DISTANCE = 2;
 constexpr std::size_t FRAME_CLOSE_TOP = 3;
 constexpr std::size_t FRAME_LIFT = 4;
 
-// The nine-patch frame reaches past the dialog by these margins.
-constexpr int BACKGROUND_LEFT = 9;
-constexpr int BACKGROUND_TOP = 15;
-constexpr int BACKGROUND_EXTRA_WIDTH = 19;
-constexpr int BACKGROUND_EXTRA_HEIGHT = 25;
-
 int Saturate(long long v) {
     return static_cast<int>(std::clamp<long long>(v, INT32_MIN, INT32_MAX));
 }
@@ -39,6 +34,7 @@ int Saturate(long long v) {
 } // namespace
 
 CDlgWebRegisterEn::CDlgWebRegisterEn() : CSimDialog(IDD) {
+    SetDrawMargin(panelframe::MARGIN);
 }
 
 CDlgWebRegisterEn::~CDlgWebRegisterEn() = default;
@@ -105,10 +101,7 @@ bool CDlgWebRegisterEn::PlaceAroundPage(int nLayoutId) {
 
 int CDlgWebRegisterEn::Show() {
     const int nResult = CSimDialog::Show();
-    if (QueryMyAniMgr()->HasAni(CONTROL_ANI_FILE, BACKGROUND))
-        CGameGraphic::ShowNineImageBackGround(BACKGROUND, m_ptPos.x - BACKGROUND_LEFT,
-                                              m_ptPos.y - BACKGROUND_TOP, GetWidth() + BACKGROUND_EXTRA_WIDTH,
-                                              GetHeight() + BACKGROUND_EXTRA_HEIGHT, 255);
+    panelframe::Draw(*this, m_ptPos.x, m_ptPos.y);
     GameLogicEnGet()->SetRegisterPageCentre(m_ptPos.x + GetWidth() / 2, m_ptPos.y + GetHeight() / 2);
     if (m_pBrowser) m_pBrowser->Draw();
     m_btnClose.Show(); // over the page

@@ -20,7 +20,6 @@ public:
     /// lift).
     static constexpr std::uint32_t ROLETEXT_FRAME = 1010113;
     static constexpr std::array<int, 5> FRAME_DEFAULTS = {24, 45, 45, 2, 15};
-    static constexpr const char* BACKGROUND = "Padre_BgSudokuBG";
 
     CDlgWebRegisterEn();
     ~CDlgWebRegisterEn() override;

@@ -15,6 +15,9 @@
 #include "screen/ServerLoad.h"
 
 CDlgFlashCharacterEn::CDlgFlashCharacterEn() : CSimDialog(IDD) {
+    // The dimming layer covers the whole screen, wherever the list stands.
+    constexpr int WHOLE_SCREEN = 1 << 20;
+    SetDrawMargin(RECT{WHOLE_SCREEN, WHOLE_SCREEN, WHOLE_SCREEN, WHOLE_SCREEN});
 }
 
 CDlgFlashCharacterEn::~CDlgFlashCharacterEn() = default;
@@ -109,7 +112,7 @@ void CDlgFlashCharacterEn::OnClose() {
 }
 
 int CDlgFlashCharacterEn::Show() {
-    // The dimming layer; the toolkit keeps it within the dialog (docs/STATUS.md).
+    // The dimming layer over everything below the list.
     if (CMyAni* pAni = QueryMyAniMgr()->QueryAni(CONTROL_ANI_FILE, DIM_ANI)) {
         pAni->ShowStretch(0, RECT{0, 0, CMyBitmap::GetScreenWidth(), CMyBitmap::GetScreenHeight()}, 255);
         pAni->Release();
