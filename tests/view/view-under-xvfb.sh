@@ -34,6 +34,8 @@ Xvfb -displayfd 5 -screen 0 1280x1024x24 -nolisten tcp 5>"$out/display" 2>"$out/
 pids+=($!)
 wait_for test -s "$out/display" || fail "Xvfb did not start"
 export DISPLAY=":$(head -1 "$out/display")"
+# Xvfb has no GPU: the software renderer draws the window, without a GL driver's threads.
+export SDL_RENDER_DRIVER=software SDL_FRAMEBUFFER_ACCELERATION=0
 
 cat >"$out/login.scn" <<'SCN'
 set VAR_VERSION 1.0.3

@@ -95,6 +95,10 @@ ScenarioRunner::~ScenarioRunner() {
     g_pTranscript = nullptr;
     g_answers.clear();
     g_pAnsweringSim = nullptr;
+    // A game client destroys the simulator before it exits; a scenario that left it alive gets that here,
+    // after its transcript, so that no worker of the system (a browser page's thread) outlives the host
+    // libraries' static state.
+    if (m_pSim) m_library.Destroy();
     if (!m_strScratchDir.empty()) {
         std::error_code ec;
         std::filesystem::remove_all(m_strScratchDir, ec);
