@@ -83,7 +83,10 @@ BOOL CDlgFlashAction::OnInitDialog() {
     m_preview.InitGround();
     m_preview.BuildAndShow();
     PlaceSides();
-    if (m_pBack) m_pBack->ShowWindow(SW_SHOW);
+    if (m_pBack) {
+        CEnglishPlacement::PlaceBottomLeft(*m_pBack, CEnglishPlacement::MainSize(ScreenContext()));
+        m_pBack->ShowWindow(SW_SHOW);
+    }
     m_imgFrame.ShowWindow(SW_HIDE);
     return TRUE;
 }

@@ -37,6 +37,11 @@ void CEnglishPlacement::PlaceFrame(LuGui::CLuBaseWindow& frame, SIZE main) {
                      rc.right - rc.left, rc.bottom - rc.top);
 }
 
+void CEnglishPlacement::PlaceBottomLeft(LuGui::CLuBaseWindow& dialog, SIZE main) {
+    const RECT rc = RecordRect(dialog);
+    dialog.MoveWindow(rc.left, rc.top + main.cy - DESIGN_HEIGHT, rc.right - rc.left, rc.bottom - rc.top);
+}
+
 void CEnglishPlacement::PlaceSide(LuGui::CLuBaseWindow& dialog, std::uint32_t nStrId, SIZE main,
                                   bool bRightAligned) {
     int abc[3] = {0, 0, 0};

@@ -24,6 +24,9 @@ public:
     static RECT RecordRect(const LuGui::CLuBaseWindow& window);
     /// The preview frame: its record's place moved by ((W - 1024) / 2, H - 768), its size kept.
     static void PlaceFrame(LuGui::CLuBaseWindow& frame, SIZE main);
+    /// The back dialog: its record's place moved down by H - 768, so that it keeps its distance to the
+    /// bottom edge beside the column.
+    static void PlaceBottomLeft(LuGui::CLuBaseWindow& dialog, SIZE main);
     /// A side dialog: the three numbers a, b, c of string nStrId grow the record's size by (a, b); the bottom
     /// lies c above the main window's bottom; bRightAligned puts its right edge on the main window's right.
     static void PlaceSide(LuGui::CLuBaseWindow& dialog, std::uint32_t nStrId, SIZE main, bool bRightAligned);
