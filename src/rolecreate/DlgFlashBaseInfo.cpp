@@ -130,12 +130,7 @@ std::int32_t CDlgFlashBaseInfo::GetLook(int nHead) const {
 }
 
 int CDlgFlashBaseInfo::Show() {
-    CSimDialog::Show();
-    // NOTE: the boxes, the lock and the "new" picture are drawn again above the dialog's own drawing, so that
-    // the lock lies over box 1058 whatever the binding order.
-    for (CSimCheck& box : m_chkProfessions)
-        if (box.IsWindowVisible()) box.Show();
-    if (m_btnLock.IsWindowVisible()) m_btnLock.Show();
-    if (m_imgNew.IsWindowVisible()) m_imgNew.Show();
-    return 1;
+    // NOTE: the toolkit's drawing draws the eight boxes, then the lock and the "new" picture (binding order),
+    // so the lock lies over box 1058; drawing them a second time would only double the frame's work.
+    return CSimDialog::Show();
 }
