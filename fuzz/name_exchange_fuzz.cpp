@@ -63,8 +63,11 @@ void Click(CFlashSimulator& sim, LuGui::CLuDialog& dialog, UINT nId) {
     const LuGui::CLuBaseWindow* pCtrl = dialog.GetControl(nId);
     if (!pCtrl || !dialog.IsWindowVisible() || !pCtrl->IsWindowVisible()) return;
     const RECT rc = pCtrl->GetWindowRect();
-    const LPARAM point = MAKELPARAM((rc.left + rc.right) / 2, (rc.top + rc.bottom) / 2);
-    host::SetCursor((rc.left + rc.right) / 2, (rc.top + rc.bottom) / 2);
+    // NOTE: a main window of a huge stored size may put a dialog far out; the centre is taken in 64 bits.
+    const auto x = static_cast<int>((std::int64_t{rc.left} + rc.right) / 2);
+    const auto y = static_cast<int>((std::int64_t{rc.top} + rc.bottom) / 2);
+    const LPARAM point = MAKELPARAM(x, y);
+    host::SetCursor(x, y);
     sim.WindowProc(nullptr, WM_LBUTTONDOWN, 0, point);
     sim.WindowProc(nullptr, WM_LBUTTONUP, 0, point);
 }
