@@ -111,6 +111,13 @@ std::u16string StringToWString(const char* sz, UINT nCodePage) {
     return out;
 }
 
+std::string WStringToUTF8(const char16_t* sz, std::size_t nMaxBytes) {
+    if (!sz) return {};
+    std::u16string_view text(sz);
+    const std::string utf8 = txt::Utf8::FromUtf32(txt::Utf8::Utf16ToUtf32(text));
+    return utf8.substr(0, txt::Utf8::CutAtBoundary(utf8, nMaxBytes));
+}
+
 void ConverCodeToOnlyEnglish(char* szText, std::size_t nSize) {
     if (!szText || nSize == 0) return;
     // NOTE: the text is rewritten in place behind the reading position, which never passes what it reads.

@@ -211,3 +211,7 @@ void SetAccountName(const char* szAccount) {
     host::SetData("gamebase.account", account);
     host::Journal("gamebase.account", {{"name", account}});
 }
+
+bool IsChineseInputAllowed() {
+    return host::GetDataInt("chinese", 0) != 0;
+}

@@ -153,7 +153,8 @@ bool CLuBaseWindow::IsCoveredAt(POINT ptScreen) const {
 void CLuBaseWindow::ProcessMouseMove() {
     POINT pt{};
     GetCursorPos(&pt);
-    m_bHover = m_bEnabled && HitTest(pt) && !IsCoveredAt(pt);
+    m_bMouseOver = HitTest(pt) && !IsCoveredAt(pt);
+    m_bHover = m_bEnabled && m_bMouseOver;
 }
 
 // ---- background and effects ----------------------------------------------------------------------

@@ -147,7 +147,10 @@ bool CLuEdit::ReplaceSelection(const std::string& strInsert) {
 }
 
 void CLuEdit::NotifyChanged(bool bText) {
-    if (bText) OnTextChanged();
+    if (bText) {
+        OnTextChanged();
+        NotifyParent(WM_COMMAND, 0, EN_CHANGE);
+    }
     OnSelChange();
 }
 

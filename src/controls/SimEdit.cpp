@@ -142,3 +142,15 @@ void CSimEdit::OnChar(UINT nChar, UINT nRepCnt, UINT nFlags) {
     }
     LuGui::CLuEdit::OnChar(nChar, nRepCnt, nFlags);
 }
+
+void CSimEdit::SetWindowTextA(const char* szText) {
+    const std::string_view text(szText ? szText : "");
+    if (m_nLimitChars <= 0) return LuGui::CLuEdit::SetWindowTextA(szText);
+    std::size_t nCut = 0;
+    int nChars = 0;
+    for (; nCut < text.size(); ++nCut) {
+        const bool bStartsCharacter = (static_cast<unsigned char>(text[nCut]) & 0xC0) != 0x80;
+        if (bStartsCharacter && ++nChars > m_nLimitChars) break;
+    }
+    LuGui::CLuEdit::SetWindowTextA(std::string(text.substr(0, nCut)).c_str());
+}

@@ -30,6 +30,8 @@ public:
     void SetLostFocusTip(const char* szTip);
     /// Limits the text to nChars characters (the toolkit's SetLimitText counts bytes); 0 lifts it.
     void SetLimitChars(int nChars);
+    /// A text set by the program keeps at most the character limit's characters (cut between characters).
+    void SetWindowTextA(const char* szText) override;
     /// Typing past the character limit is dropped.
     void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags) override;
     void SetLostFocusTipOffset(int x, int y);

@@ -31,6 +31,9 @@ void Split(std::vector<CZrString>& vecOut, const char* szText, const char* szSep
 void ConverCodeToOnlyEnglish(char* szText, std::size_t nSize);
 /// UTF-8 (code page 65001) or Latin-1 (anything else) to UTF-16.
 std::u16string StringToWString(const char* sz, UINT nCodePage);
+/// UTF-16 (to its first NUL, unpaired surrogates replaced) to UTF-8 of at most nMaxBytes, never cut inside a
+/// character.
+std::string WStringToUTF8(const char16_t* sz, std::size_t nMaxBytes);
 
 // ---- files below the client directory ------------------------------------------------------------
 

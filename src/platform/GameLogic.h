@@ -30,6 +30,9 @@ protected:
 };
 IGameLogic* GameLogicGet();
 
+/// Whether the game logic allows Chinese input in name boxes.
+bool IsChineseInputAllowed();
+
 /// The international client's game logic (`GameLogicEnGet`).
 class IGameLogicEn {
 public:

@@ -104,6 +104,9 @@ public:
     bool IsHideState() const { return m_bHideState; }
     /// Whether the cursor lies over the window (updated by ProcessMouseMove).
     bool IsHover() const { return m_bHover; }
+    /// Whether the cursor lies over the window, enabled or not (a disabled window never hovers, yet its tip
+    /// may still explain why it is disabled).
+    bool IsMouseOver() const { return m_bMouseOver; }
 
     // ---- background and effects -----------------------------------------------------------------
 
@@ -195,6 +198,7 @@ protected:
     bool m_bEnabled = true;
     bool m_bHideState = false;
     bool m_bHover = false;
+    bool m_bMouseOver = false;
 
     std::string m_strText;
     SIZE m_sizeFont{7, 14};

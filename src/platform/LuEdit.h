@@ -46,6 +46,8 @@ public:
     /// notification code EN_SETFOCUS in the high word).
     void SetFocus();
     static constexpr WORD EN_SETFOCUS = 0x0100;
+    /// Typing changed the text: command 273 with this notification code in the high word.
+    static constexpr WORD EN_CHANGE = 0x0300;
     /// Byte limit of the text (at least 1).
     void SetLimitText(int nLimit);
     int GetLimitText() const { return m_nLimitText; }

@@ -7,6 +7,7 @@
 
 #include "platform/GameData.h"
 #include "platform/Input.h"
+#include "rolecreate/DlgFlashProIntro.h"
 #include "screen/LayoutNumbers.h"
 #include "screen/ScreenContext.h"
 
@@ -72,8 +73,13 @@ void CDlgFlashConfirm::OnOk() {
     case TYPE_NAME_REFUSED:
         ReopenCreation();
         break;
+    case TYPE_ERROR:
+    case TYPE_INPUT:
+        // NOTE: every notice of these kinds empties the English name box: the name refusals use them, and a
+        // host error after a registration means the name must be chosen again.
+        if (m_pProIntro) m_pProIntro->ResetName();
+        break;
     default:
-        // NOTE: kinds 3 and 4 also empty the introduction panel's name entry once that panel exists.
         break;
     }
     ShowWindow(SW_HIDE);

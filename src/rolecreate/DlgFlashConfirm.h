@@ -9,6 +9,8 @@
 #include "controls/SimStatic.h"
 #include "screen/ScreenContext.h"
 
+class CDlgFlashProIntro;
+
 class CDlgFlashConfirm : public CSimDialog {
 public:
     static constexpr UINT IDD = 1005;
@@ -43,6 +45,9 @@ public:
     int GetType() const { return m_nType; }
     const char* GetText() const { return m_staticMessage.GetWindowTextA(); }
 
+    /// The English introduction panel, whose name OK of kinds 3 and 4 empties.
+    void Link(CDlgFlashProIntro* pProIntro) { m_pProIntro = pProIntro; }
+
 private:
     void OnOk();
     void OnCancel();
@@ -60,4 +65,5 @@ private:
     CSimStatic m_staticMessage;
     CSimButton m_btnOk;
     CSimButton m_btnCancel;
+    CDlgFlashProIntro* m_pProIntro = nullptr;
 };

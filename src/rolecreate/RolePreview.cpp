@@ -75,6 +75,11 @@ void CRolePreview::BuildAndShow() {
     m_nPreviewState = STATE_SHOWING;
 }
 
+void CRolePreview::PlayAction(int nAction) {
+    m_role.ResetActionData(false, false);
+    Play(nAction);
+}
+
 void CRolePreview::Replace(bool bForced) {
     if (!bForced && m_role.GetCurAction() == ROLE_ACTION_IDLE) {
         Play(ROLE_ACTION_LEAVE);
@@ -159,6 +164,12 @@ bool CRolePreview::ChooseDrawn(int& nAction, int& nFrame, bool& bRebuild) {
 }
 
 void CRolePreview::DrawFigure(int nAction, int nFrame) {
+    if (m_options.bMapCall) {
+        // NOTE: the English preview asks the map library for the origin's cell before every figure; the
+        // answer is not used, the call is what the map library expects of it.
+        int nCellX = 0, nCellY = 0;
+        if (IGameMap* pMap = IGameMap::GetInstance()) pMap->ScreenToCell(0, 0, nCellX, nCellY);
+    }
     if (!m_role.HasBody()) return;
     m_role.PlaceBody(0, 0, 0, 0, m_nScalePercent / PERCENT);
     m_role.SetBodyAction(nAction, 1, 0, 0, 0, 1, 0);

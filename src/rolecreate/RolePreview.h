@@ -13,6 +13,7 @@ public:
     struct SOptions {
         bool bBuildsSword = false; ///< profession 100 (English layout only)
         bool bHeroSelf = false;    ///< CRole::SetHeroSelf(1) after each build (standard layout)
+        bool bMapCall = false;     ///< the map library is asked before the figure is drawn (English layout)
     };
     enum EState : std::int32_t {
         STATE_NOT_STARTED = 0,
@@ -39,6 +40,8 @@ public:
     void SetSex(std::int32_t nSex);
     /// Builds the figure of the current choice and plays the show action (English initialisation).
     void BuildAndShow();
+    /// Plays an action on the current figure from its start (the English action buttons).
+    void PlayAction(int nAction);
     /// The per-frame camera, ground and figure; the camera is back at the screen centre afterwards.
     void Show();
     /// The camera object back to 0 (the creation screen closes).

@@ -166,6 +166,16 @@ public:
     virtual bool IsSelectedServerAchTips() const = 0;
     /// Profession 70 may be created ("DarkKnightCanCrate").
     virtual bool IsDarkKnightAllowed() const = 0;
+    /// The English layout's name check: whether the host reported the name as checked, and the stored flags
+    /// (checked false clears it; the role-ready flag is stored only with bUpdateReady).
+    virtual bool IsNameChecked() = 0;
+    virtual void SetNameCheck(bool bChecked, bool bReady, bool bUpdateReady) = 0;
+    /// What the English registration records for the host to read back.
+    virtual void SetProfession(std::int32_t nProfession) = 0;
+    virtual void SetModelFace(std::int32_t nFace) = 0;
+    virtual void SetBaseInfoIndex(std::int32_t nIndex) = 0;
+    /// Stores the look modulo 2.
+    virtual void SetLookParity(std::int32_t nLook) = 0;
 
     // ---- events ----
     /// The listener must stay alive until RemoveListener or the simulator's end.

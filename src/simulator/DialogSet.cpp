@@ -15,6 +15,11 @@ CDialogSet::CDialogSet() {
     m_dlgCreateRole.Link(&m_dlgSelectPro, &m_dlgSelectHead);
     m_dlgSelectPro.Link(&m_dlgCreateRole, &m_dlgSelectHead);
     m_dlgSelectHead.Link(&m_dlgSelectPro);
+    // So do those of the English layout; the message box empties the English name on OK.
+    m_dlgAction.Link(&m_dlgBaseInfo, &m_dlgProIntro, &m_dlgBack);
+    m_dlgBaseInfo.Link(&m_dlgAction, &m_dlgProIntro);
+    m_dlgProIntro.Link(&m_dlgAction, &m_dlgBaseInfo, &m_dlgSceneSelect);
+    m_dlgConfirm.Link(&m_dlgProIntro);
 }
 
 std::array<CSimDialog*, CDialogSet::REGISTRATIONS> CDialogSet::RegistrationOrder() {

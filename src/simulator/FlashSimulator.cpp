@@ -266,8 +266,9 @@ void CFlashSimulator::SetCreateRoleParam(std::int32_t nNewServer, std::int32_t n
     m_state.m_nSwitchB = nSwitchB;
     m_state.m_createRoleParam = SCreateRoleParam{
         nNewServer, nSwitchA, nSwitchB, nArcher, m_state.m_nForcedType, bSceneSelect, nExtra1, nExtra2};
-    m_pDialogs->m_dlgSelectPro.SetServerInfo(nNewServer, nSwitchA > 0 && IsSelectedServerAchTips(),
-                                             nSwitchB > 0, nArcher > 0);
+    const bool bSecondOpen = nSwitchA > 0 && IsSelectedServerAchTips();
+    m_pDialogs->m_dlgSelectPro.SetServerInfo(nNewServer, bSecondOpen, nSwitchB > 0, nArcher > 0);
+    m_pDialogs->m_dlgBaseInfo.SetServerInfo(nNewServer, bSecondOpen, nSwitchB > 0, nArcher > 0);
 }
 
 bool CFlashSimulator::IsSelectedServerAchTips() const {
@@ -318,8 +319,17 @@ void CFlashSimulator::SetNameCheck(bool bChecked, bool bReady, bool bUpdateReady
         NotifyHost("BURYING_POINT", "412");
         g_bOnceEvent412 = false;
     }
-    // NOTE: registration (or the scene choice for profession 100) follows once the introduction panel exists.
-    (void)PROFESSION_WITH_SCENE_CHOICE;
+    // NOTE: only an open English screen registers or offers the scene choice; for a closed one the flags are
+    // stored and nothing is sent (docs/DECISIONS.md).
+    CDlgFlashProIntro& panel = m_pDialogs->m_dlgProIntro;
+    if (!panel.IsWindowVisible()) return;
+    if (panel.GetProfession() != PROFESSION_WITH_SCENE_CHOICE) {
+        m_pDialogs->m_dlgSceneSelect.ShowWindow(SW_HIDE);
+        panel.Register(true);
+        return;
+    }
+    m_state.m_bNameChecked = false;
+    m_pDialogs->m_dlgSceneSelect.ShowWindow(SW_SHOW);
 }
 
 void CFlashSimulator::SetProfession(std::int32_t nProfession) {
@@ -367,14 +377,11 @@ void CFlashSimulator::FocusAccountField() {
 }
 
 void CFlashSimulator::SetRandomName(const char* szName, std::int32_t nLength) {
-    // NOTE: fills the introduction panel's name field once that panel exists (docs/STATUS.md).
-    (void)szName;
-    (void)nLength;
+    m_pDialogs->m_dlgProIntro.SetSuggestedName(szName, nLength);
 }
 
 bool CFlashSimulator::IsNameUnchanged() {
-    // NOTE: compares the introduction panel's name field with its stored name once that panel exists.
-    return false;
+    return m_pDialogs->m_dlgProIntro.IsNameUnchanged();
 }
 
 bool CFlashSimulator::GetSelection(std::int32_t* pFirst, std::int32_t* pSecond) {
@@ -402,7 +409,8 @@ void CFlashSimulator::ShowSwitchLanguage() {
 }
 
 void CFlashSimulator::RegisterRole() {
-    // NOTE: starts the introduction panel's registration once that panel exists (docs/STATUS.md).
+    // NOTE: as for SetNameCheck, a register request for a closed English screen sends nothing.
+    if (m_pDialogs->m_dlgProIntro.IsWindowVisible()) m_pDialogs->m_dlgProIntro.Register(true);
 }
 
 // ---- music ---------------------------------------------------------------------------------------

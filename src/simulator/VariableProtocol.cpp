@@ -46,11 +46,6 @@ bool EqualsNoCase(const char* a, const char* b) {
 void VarNoEffect(CFlashSimulator& sim, const char*) {
 }
 
-void VarDialogPending(CFlashSimulator& sim, const char*) {
-    // NOTE: the name is understood; its effect lies in a login or creation dialog not built yet
-    // (docs/STATUS.md).
-}
-
 void VarMainPath(CFlashSimulator& sim, const char*) {
     if (sim.State().m_nLoginStep != LOGIN_STEP_START) return;
     sim.Dialogs().m_dlgBG.ShowWindow(SW_SHOW);
@@ -302,8 +297,15 @@ void VarRoleSetMainPath(CFlashSimulator& sim, const char* szValue) {
     if (v.size() >= 1) sim.State().m_nMainPathWidth = v[0];
     if (v.size() >= 2) sim.State().m_nMainPathHeight = v[1];
     sim.SetNameSuggest(v.size() >= 3 ? v[2] : 0);
-    // NOTE: the preview dialog is placed for the screen size once that screen exists.
-    sim.Dialogs().m_dlgAction.ShowWindow(SW_SHOW);
+    sim.Dialogs().m_dlgAction.Open();
+}
+
+void VarChineseSwitch(CFlashSimulator& sim, const char*) {
+    sim.Dialogs().m_dlgProIntro.EnableChineseInput();
+}
+
+void VarGetChineseSwitch(CFlashSimulator& sim, const char*) {
+    sim.Dialogs().m_dlgProIntro.QueryChineseInput();
 }
 
 void VarDarkKnight(CFlashSimulator& sim, const char* szValue) {
@@ -314,8 +316,10 @@ void VarDarkKnight(CFlashSimulator& sim, const char* szValue) {
 void VarShowCreateWnd(CFlashSimulator& sim, const char* szValue) {
     const bool bInternational = EqualsNoCase(RoleDataQueryEx()->GetLanguageName(), "English");
     if (EqualsNoCase(szValue, "1")) {
+        // NOTE: the English screen is placed for the size "SetMainPath" stored, never for the "1" of this
+        // value (docs/DECISIONS.md).
         if (bInternational)
-            sim.Dialogs().m_dlgAction.ShowWindow(SW_SHOW);
+            sim.Dialogs().m_dlgAction.Open();
         else {
             sim.Dialogs().m_dlgSelectPro.ShowWindow(SW_SHOW);
             sim.Dialogs().m_dlgCreateRole.ShowCreationControls(true);
@@ -513,8 +517,8 @@ struct VariableTables {
     static const Table& RoleCreate() {
         static const Table table = {
             {"setmainpath", &VarRoleSetMainPath},
-            {"chineseswitch", &VarDialogPending},
-            {"getchineseswitch", &VarDialogPending},
+            {"chineseswitch", &VarChineseSwitch},
+            {"getchineseswitch", &VarGetChineseSwitch},
             {"setroletype", &VarNoEffect},
             {"setexit", &VarNoEffect},
             {"regsuccess", &VarNoEffect},
