@@ -23,6 +23,15 @@ namespace {
 LONG AddSaturated(long long a, long long b) {
     return static_cast<LONG>(std::clamp<long long>(a + b, INT32_MIN, INT32_MAX));
 }
+
+// Bumped whenever any window moves or is attached to a dialog: a control's screen rectangle depends on its
+// dialog's place as well as its own, and moves are rare next to the lookups of a frame. Starts at 1 so that a
+// new window's cache (version 0) is stale.
+unsigned g_nGeometryVersion = 1;
+
+void GeometryChanged() {
+    if (++g_nGeometryVersion == 0) g_nGeometryVersion = 1;
+}
 } // namespace
 
 CLuBaseWindow::CLuBaseWindow() : m_strBgAniFile(CONTROL_ANI_FILE) {
@@ -74,9 +83,12 @@ void CLuBaseWindow::GetWindowRect(RECT* pRect) const {
 }
 
 RECT CLuBaseWindow::GetWindowRect() const {
+    if (m_nScreenVersion == g_nGeometryVersion) return m_rcScreen;
     const POINT origin = GetParentOrigin();
-    return RECT{AddSaturated(m_rc.left, origin.x), AddSaturated(m_rc.top, origin.y),
-                AddSaturated(m_rc.right, origin.x), AddSaturated(m_rc.bottom, origin.y)};
+    m_rcScreen = RECT{AddSaturated(m_rc.left, origin.x), AddSaturated(m_rc.top, origin.y),
+                      AddSaturated(m_rc.right, origin.x), AddSaturated(m_rc.bottom, origin.y)};
+    m_nScreenVersion = g_nGeometryVersion;
+    return m_rcScreen;
 }
 
 RECT CLuBaseWindow::GetDrawRect() const {
@@ -111,6 +123,7 @@ void CLuBaseWindow::ClientToScreen(POINT* pPoint) const {
 
 void CLuBaseWindow::MoveWindow(int x, int y, int nWidth, int nHeight, BOOL) {
     m_rc = RECT{x, y, AddSaturated(x, std::max(0, nWidth)), AddSaturated(y, std::max(0, nHeight))};
+    GeometryChanged();
 }
 
 BOOL CLuBaseWindow::SetWindowPos(const CLuBaseWindow* pInsertAfter, int x, int y, int cx, int cy,
@@ -199,6 +212,7 @@ void CLuToolkit::Attach(CLuBaseWindow& wnd, ILuGuiMgr* pMgr, CLuDialog* pParent,
     wnd.m_pParent = pParent;
     wnd.m_nId = nId;
     wnd.m_pLayout = pLayout;
+    GeometryChanged();
     wnd.ApplyLayout();
 }
 

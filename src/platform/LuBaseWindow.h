@@ -212,6 +212,11 @@ private:
     friend class CLuToolkit;
     /// Applies the layout keys every window understands.
     void ApplyLayout();
+
+    /// The screen rectangle as last computed and the geometry version it was computed at: hit tests, clips
+    /// and draws ask for it many times a frame, and it changes only when a window moves or is attached.
+    mutable RECT m_rcScreen{0, 0, 0, 0};
+    mutable unsigned m_nScreenVersion = 0;
 };
 
 } // namespace LuGui
