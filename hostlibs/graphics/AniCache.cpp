@@ -148,10 +148,17 @@ AniHandle* AniCache::Resolve(std::string_view file, std::string_view title) {
     return m_animations.emplace(key, std::move(handle)).first->second.get();
 }
 
+unsigned long long AniCache::Version() const {
+    constexpr int CLEARS_SHIFT = 32;
+    return (static_cast<unsigned long long>(m_nClears.load()) << CLEARS_SHIFT) |
+           host::detail::Env().clientDirVersion;
+}
+
 void AniCache::Clear() {
     std::lock_guard lock(m_mutex);
     m_byRequest.clear();
     ForgetRecent();
+    ++m_nClears;
     m_animations.clear();
     m_indexes.clear();
     m_pictures.clear();

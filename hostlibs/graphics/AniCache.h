@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <atomic>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -32,6 +33,9 @@ public:
     AniHandle* Animation(std::string_view file, std::string_view title);
     /// Forgets everything; animations handed out before are invalid afterwards.
     void Clear();
+    /// Changes whenever an animation handed out before may no longer be the answer to its request (at Clear,
+    /// and when the client directory changes); never 0.
+    unsigned long long Version() const;
 
 private:
     AniCache() = default;
@@ -86,6 +90,7 @@ private:
     void ForgetRecent();
     std::array<RecentRequest, RECENT_SLOTS> m_recent;
     unsigned m_nRequestDirVersion = 0;
+    std::atomic<unsigned> m_nClears{1};
 };
 
 } // namespace gfx

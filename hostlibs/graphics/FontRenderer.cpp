@@ -117,6 +117,9 @@ int FontRenderer::Measure(std::u32string_view text, int size) {
 
 int FontRenderer::MeasureUtf8(std::string_view text, int size) {
     size = ClampSize(size);
+    // Most texts are one line of ASCII: every cell is half the size.
+    if (text.find('\n') == std::string_view::npos && txt::Utf8::IsAscii(text))
+        return static_cast<int>(text.size()) * CellWidth(U'a', size);
     int widest = 0;
     int line = 0;
     for (std::size_t pos = 0; pos < text.size();) {
@@ -148,6 +151,7 @@ int FontRenderer::MeasureHeightUtf8(std::string_view text, int size) {
     // NOTE: a line feed byte is always a line feed: UTF-8 never uses bytes below 0x80 inside a character.
     if (text.empty()) return 0;
     size = ClampSize(size);
+    if (text.find('\n') == std::string_view::npos) return size;
     const auto lines = static_cast<int>(std::count(text.begin(), text.end(), '\n')) + 1;
     return lines * size + (lines - 1) * LINE_GAP;
 }

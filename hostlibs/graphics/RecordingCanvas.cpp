@@ -14,8 +14,15 @@ Rect AtLeastOnePixel(const Rect& rc) {
     return {rc.x, rc.y, std::max(rc.w, 1), std::max(rc.h, 1)};
 }
 
-bool IsAscii(std::string_view text) {
-    return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+void FillText(host::DrawOp& op, const Rect& place, int size, DWORD colour, std::string_view text) {
+    op.kind = "text";
+    op.x = place.x;
+    op.y = place.y;
+    op.w = place.w;
+    op.h = place.h;
+    op.colour = colour;
+    op.size = size;
+    op.text.assign(text);
 }
 
 bool Inside(const Rect& inner, const Rect& outer) {
@@ -40,6 +47,10 @@ void RecordingCanvas::Begin(int width, int height, DWORD) {
 
 bool RecordingCanvas::Admit(const host::DrawOp& op, const Rect& bounds, Content content) {
     if (content == Content::TextOrPicture) CheckInsideWindow(op, bounds);
+    return Kept(bounds);
+}
+
+bool RecordingCanvas::Kept(const Rect& bounds) {
     if (bounds.Intersect(m_clip).Empty()) return false;
     if (m_ops.size() >= host::MAX_RECORDED_OPS) {
         ++m_dropped;
@@ -87,15 +98,22 @@ void RecordingCanvas::TextUtf8(int x, int y, std::string_view text, const TextSt
     if (text.empty() || m_compoundDepth > 0) return;
     // NOTE: only ASCII is recorded as given: any other text goes through its UTF-32 form, so that a broken
     // byte is recorded as the replacement character that is drawn.
-    if (!IsAscii(text)) {
+    if (!txt::Utf8::IsAscii(text)) {
         Text(x, y, txt::Utf8::ToUtf32(text), style);
         return;
     }
     const int size = FontRenderer::ClampSize(style.size);
     const Rect place{x, y, FontRenderer::MeasureUtf8(text, size),
                      FontRenderer::MeasureHeightUtf8(text, size)};
-    Record(OpBuilder("text", place).Colour(style.colour).Size(size).Text(std::string(text)).Take(),
-           AtLeastOnePixel(place), Content::TextOrPicture);
+    const Rect bounds = AtLeastOnePixel(place);
+    // The operation is filled in where it is kept: a text is recorded per label per frame. Only one that
+    // reaches past its window is built on its own as well, for the window check.
+    if (!m_windows.empty() && !Inside(bounds, m_windows.back().rect)) {
+        host::DrawOp op;
+        FillText(op, place, size, style.colour, text);
+        CheckInsideWindow(op, bounds);
+    }
+    if (Kept(bounds)) FillText(m_ops.emplace_back(), place, size, style.colour, text);
 }
 
 void RecordingCanvas::DrawImage(const Image&, const Rect&, const Rect& dst, int alpha) {

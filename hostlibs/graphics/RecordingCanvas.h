@@ -46,6 +46,9 @@ private:
     /// Whether op is kept (checked against its window on the way); counts it as dropped when there is no
     /// room.
     bool Admit(const host::DrawOp& op, const Rect& bounds, Content content);
+    /// Whether an operation over bounds is kept: not wholly outside the clip, and room left (else it counts
+    /// as dropped).
+    bool Kept(const Rect& bounds);
     /// Keeps op when it reaches past the window drawing it.
     void CheckInsideWindow(const host::DrawOp& op, const Rect& bounds);
 

@@ -14,12 +14,17 @@
 #include "LuGui.h"
 #include "LuGui_internal.h"
 #include "LuLayoutRecord.h"
+#include "MyAni.h"
 #include "PostedMessages.h"
+#include "graphics/AniCache.h"
+#include "graphics/AniHandle.h"
 
 namespace LuGui {
 
 namespace {
 // Layout numbers are outside text: sums saturate instead of overflowing.
+constexpr int FULL_ALPHA = 255;
+
 LONG AddSaturated(long long a, long long b) {
     return static_cast<LONG>(std::clamp<long long>(a + b, INT32_MIN, INT32_MAX));
 }
@@ -173,11 +178,13 @@ void CLuBaseWindow::ProcessMouseMove() {
 
 void CLuBaseWindow::SetBackGroundAni(const char* szTitle) {
     m_strBgAni = szTitle ? szTitle : "";
+    m_nBgAniVersion = 0;
     if (!m_strBgAni.empty()) m_bShowBackGround = true;
 }
 
 void CLuBaseWindow::SetBackGroundAniFile(const char* szFile) {
     m_strBgAniFile = szFile && *szFile ? szFile : CONTROL_ANI_FILE;
+    m_nBgAniVersion = 0;
 }
 
 void CLuBaseWindow::SetBgEffect(CGui3DEffect* pEffect) {
@@ -195,7 +202,18 @@ void CLuBaseWindow::ShowBackGround() {
     RECT rc = GetWindowRect();
     rc = RECT{rc.left + m_ptBgOffset.x, rc.top + m_ptBgOffset.y, rc.right + m_ptBgOffset.x,
               rc.bottom + m_ptBgOffset.y};
-    CGameGraphic::ShowAniRect(m_strBgAniFile.c_str(), m_strBgAni.c_str(), m_nCurFrame, rc);
+    if (CMyAni* pAni = BackGroundAni())
+        pAni->ShowStretch(m_nCurFrame < 0 ? pAni->FrameByTime() : m_nCurFrame, rc, FULL_ALPHA);
+}
+
+CMyAni* CLuBaseWindow::BackGroundAni() {
+    gfx::AniCache& cache = gfx::AniCache::Instance();
+    const unsigned long long nVersion = cache.Version();
+    if (m_nBgAniVersion != nVersion) {
+        m_pBgAni = cache.Animation(m_strBgAniFile, m_strBgAni);
+        m_nBgAniVersion = nVersion;
+    }
+    return m_pBgAni;
 }
 
 // ---- text ----------------------------------------------------------------------------------------

@@ -2,6 +2,8 @@
 #include "Utf8.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <cstring>
 
 namespace txt {
 namespace {
@@ -125,6 +127,21 @@ std::size_t Utf8::PreviousBoundary(std::string_view text, std::size_t pos) {
 
 std::size_t Utf8::CutAtBoundary(std::string_view text, std::size_t limit) {
     return text.size() <= limit ? text.size() : PreviousBoundary(text, limit + 1);
+}
+
+bool Utf8::IsAscii(std::string_view text) {
+    // Eight bytes at a time: texts are checked every frame.
+    constexpr std::uint64_t HIGH_BITS = 0x8080808080808080ULL;
+    constexpr std::size_t CHUNK = sizeof(std::uint64_t);
+    std::size_t pos = 0;
+    for (; pos + CHUNK <= text.size(); pos += CHUNK) {
+        std::uint64_t chunk = 0;
+        std::memcpy(&chunk, text.data() + pos, CHUNK);
+        if (chunk & HIGH_BITS) return false;
+    }
+    for (; pos < text.size(); ++pos)
+        if (static_cast<unsigned char>(text[pos]) >= 0x80) return false;
+    return true;
 }
 
 std::u32string Utf8::ToUtf32(std::string_view text) {
