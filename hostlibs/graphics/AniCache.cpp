@@ -1,6 +1,8 @@
 // Caching of animation data so that the per-frame lookups of every widget cost a map search, not a file read.
 #include "AniCache.h"
 
+#include <cstdint>
+
 #include "base/HostEnvironment.h"
 
 #include "AniHandle.h"
@@ -13,6 +15,10 @@
 namespace gfx {
 namespace {
 constexpr std::size_t MAX_WARNINGS_LOGGED = 20;
+// Spreads the bits of two hashes apart when they are combined into one.
+constexpr std::size_t HASH_MIX = 0x9e3779b97f4a7c15ULL;
+// The high bits of a multiplied address are the well mixed ones.
+constexpr int RECENT_SHIFT = 40;
 } // namespace
 
 AniCache& AniCache::Instance() {
@@ -60,23 +66,67 @@ std::shared_ptr<const Image> AniCache::Picture(std::string_view path) {
     return m_pictures.emplace(key, std::move(picture)).first->second;
 }
 
+std::size_t AniCache::RequestHash::operator()(const RequestView& request) const {
+    const std::size_t fileHash = std::hash<std::string_view>()(request.first);
+    const std::size_t titleHash = std::hash<std::string_view>()(request.second);
+    return fileHash ^ (titleHash + HASH_MIX + (fileHash << 6) + (fileHash >> 2));
+}
+
+std::size_t AniCache::RecentSlot(std::string_view file, std::string_view title) {
+    const auto fileAt = reinterpret_cast<std::uintptr_t>(file.data());
+    const auto titleAt = reinterpret_cast<std::uintptr_t>(title.data());
+    const auto mixed = static_cast<std::size_t>(((fileAt ^ (titleAt * HASH_MIX)) * HASH_MIX) >> RECENT_SHIFT);
+    return mixed % (RECENT_SLOTS - RECENT_WAYS + 1);
+}
+
+bool AniCache::IsRecent(const RecentRequest& recent, std::string_view file, std::string_view title) {
+    return recent.file == file.data() && recent.title == title.data() && recent.fileText == file &&
+           recent.titleText == title;
+}
+
+const AniCache::RecentRequest* AniCache::FindRecent(std::string_view file, std::string_view title) const {
+    const std::size_t slot = RecentSlot(file, title);
+    for (std::size_t way = 0; way < RECENT_WAYS; ++way)
+        if (const RecentRequest& recent = m_recent[slot + way]; IsRecent(recent, file, title)) return &recent;
+    return nullptr;
+}
+
+void AniCache::RememberRecent(std::string_view file, std::string_view title, AniHandle* pHandle) {
+    // The first free place of the request's two, else the second (the first stays for its older owner).
+    const std::size_t slot = RecentSlot(file, title);
+    RecentRequest& recent = m_recent[m_recent[slot].file ? slot + 1 : slot];
+    recent.file = file.data();
+    recent.title = title.data();
+    recent.fileText.assign(file);
+    recent.titleText.assign(title);
+    recent.handle = pHandle;
+}
+
+void AniCache::ForgetRecent() {
+    for (RecentRequest& recent : m_recent) recent = RecentRequest{};
+}
+
 AniHandle* AniCache::Animation(std::string_view file, std::string_view title) {
     if (file.empty() || title.empty()) return nullptr;
-    std::string request;
-    request.reserve(file.size() + title.size() + 1);
-    request.append(file).append(1, '\n').append(title);
+    const RequestView request(file, title);
     const unsigned nDirVersion = host::detail::Env().clientDirVersion;
     {
         std::lock_guard lock(m_mutex);
         if (nDirVersion != m_nRequestDirVersion) {
             m_byRequest.clear();
+            ForgetRecent();
             m_nRequestDirVersion = nDirVersion;
         }
-        if (auto it = m_byRequest.find(request); it != m_byRequest.end()) return it->second;
+        if (const RecentRequest* pRecent = FindRecent(file, title)) return pRecent->handle;
+        if (auto it = m_byRequest.find(request); it != m_byRequest.end()) {
+            RememberRecent(file, title, it->second);
+            return it->second;
+        }
     }
     AniHandle* pHandle = Resolve(file, title);
     std::lock_guard lock(m_mutex);
-    m_byRequest.emplace(std::move(request), pHandle);
+    m_byRequest.emplace(std::pair<std::string, std::string>(file, title), pHandle);
+    RememberRecent(file, title, pHandle);
     return pHandle;
 }
 
@@ -98,9 +148,17 @@ AniHandle* AniCache::Resolve(std::string_view file, std::string_view title) {
     return m_animations.emplace(key, std::move(handle)).first->second.get();
 }
 
+unsigned long long AniCache::Version() const {
+    constexpr int CLEARS_SHIFT = 32;
+    return (static_cast<unsigned long long>(m_nClears.load()) << CLEARS_SHIFT) |
+           host::detail::Env().clientDirVersion;
+}
+
 void AniCache::Clear() {
     std::lock_guard lock(m_mutex);
     m_byRequest.clear();
+    ForgetRecent();
+    ++m_nClears;
     m_animations.clear();
     m_indexes.clear();
     m_pictures.clear();

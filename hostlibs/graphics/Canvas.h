@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "hostlibs/HostCanvas.h"
+#include "text/Utf8.h"
 
 namespace gfx {
 
@@ -95,6 +96,11 @@ public:
     virtual void Line(int x1, int y1, int x2, int y2, DWORD colour) = 0;
     /// UTF-32 text with its top-left corner at (x, y); a line feed starts a new line.
     virtual void Text(int x, int y, const std::u32string& text, const TextStyle& style) = 0;
+    /// The same for UTF-8 text, drawn as its UTF-32 form (a broken byte as a replacement character); a canvas
+    /// that can use the UTF-8 as it is spares the conversion.
+    virtual void TextUtf8(int x, int y, std::string_view text, const TextStyle& style) {
+        Text(x, y, txt::Utf8::ToUtf32(text), style);
+    }
     /// Draws the part src of the image scaled onto dst, with the extra opacity alpha (0..255).
     virtual void DrawImage(const Image& image, const Rect& src, const Rect& dst, int alpha) = 0;
 
@@ -122,9 +128,13 @@ public:
     OpBuilder& Colour(DWORD colour) { return m_op.colour = colour, *this; }
     OpBuilder& Size(int size) { return m_op.size = size, *this; }
     OpBuilder& Frame(int frame) { return m_op.frame = frame, *this; }
-    OpBuilder& Text(std::string text) { return m_op.text = std::move(text), *this; }
-    OpBuilder& File(std::string file) { return m_op.file = std::move(file), *this; }
-    OpBuilder& Name(std::string name) { return m_op.name = std::move(name), *this; }
+    // A kept string is copied straight in (an operation is built per drawn picture), a new one moved in.
+    OpBuilder& Text(const std::string& text) { return m_op.text = text, *this; }
+    OpBuilder& Text(std::string&& text) { return m_op.text = std::move(text), *this; }
+    OpBuilder& File(const std::string& file) { return m_op.file = file, *this; }
+    OpBuilder& File(std::string&& file) { return m_op.file = std::move(file), *this; }
+    OpBuilder& Name(const std::string& name) { return m_op.name = name, *this; }
+    OpBuilder& Name(std::string&& name) { return m_op.name = std::move(name), *this; }
     operator const host::DrawOp&() const { return m_op; }
     host::DrawOp Take() { return std::move(m_op); }
 

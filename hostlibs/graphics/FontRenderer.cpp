@@ -10,6 +10,8 @@
 #include FT_FREETYPE_H
 #include FT_TRUETYPE_TABLES_H
 
+#include "text/Utf8.h"
+
 namespace gfx {
 namespace {
 // Debian's fonts-noto-cjk: one collection file holding the proportional and the monospaced faces.
@@ -113,10 +115,44 @@ int FontRenderer::Measure(std::u32string_view text, int size) {
     return std::max(widest, line);
 }
 
+int FontRenderer::MeasureUtf8(std::string_view text, int size) {
+    size = ClampSize(size);
+    // Most texts are one line of ASCII: every cell is half the size.
+    if (text.find('\n') == std::string_view::npos && txt::Utf8::IsAscii(text))
+        return static_cast<int>(text.size()) * CellWidth(U'a', size);
+    int widest = 0;
+    int line = 0;
+    for (std::size_t pos = 0; pos < text.size();) {
+        const auto c = static_cast<unsigned char>(text[pos]);
+        if (c == '\n') {
+            widest = std::max(widest, line);
+            line = 0;
+            ++pos;
+            continue;
+        }
+        if (c < 0x80) {
+            line += CellWidth(c, size);
+            ++pos;
+            continue;
+        }
+        line += CellWidth(txt::Utf8::Decode(text, pos), size);
+    }
+    return std::max(widest, line);
+}
+
 int FontRenderer::MeasureHeight(std::u32string_view text, int size) {
     if (text.empty()) return 0;
     size = ClampSize(size);
     const auto lines = static_cast<int>(std::count(text.begin(), text.end(), U'\n')) + 1;
+    return lines * size + (lines - 1) * LINE_GAP;
+}
+
+int FontRenderer::MeasureHeightUtf8(std::string_view text, int size) {
+    // NOTE: a line feed byte is always a line feed: UTF-8 never uses bytes below 0x80 inside a character.
+    if (text.empty()) return 0;
+    size = ClampSize(size);
+    if (text.find('\n') == std::string_view::npos) return size;
+    const auto lines = static_cast<int>(std::count(text.begin(), text.end(), '\n')) + 1;
     return lines * size + (lines - 1) * LINE_GAP;
 }
 

@@ -43,8 +43,11 @@ public:
     static int CellWidth(char32_t c, int size) { return c < 0x80 ? size / 2 : size; }
     /// Width of the widest line of the text (lines end at line feeds), by cells.
     static int Measure(std::u32string_view text, int size);
+    /// The same for a UTF-8 text, decoded as Utf8::ToUtf32 decodes it, without a UTF-32 copy.
+    static int MeasureUtf8(std::string_view text, int size);
     /// Height of the text: one font size per line plus the line gap between lines.
     static int MeasureHeight(std::u32string_view text, int size);
+    static int MeasureHeightUtf8(std::string_view text, int size);
     /// Extra pixels between two lines of one text.
     static constexpr int LINE_GAP = 2;
 

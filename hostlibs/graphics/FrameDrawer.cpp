@@ -34,14 +34,14 @@ void FrameDrawer::DrawBox(ICanvas& canvas, const AniFrame& frame, const Rect& ds
     if (frame.outline) canvas.OutlineRect(dst, WithOpacity(*frame.outline, alpha));
     if (frame.label.empty() || dst.h < MIN_LABEL_SIZE) return;
     const int size = std::min(LABEL_SIZE, dst.h);
-    const std::u32string label = txt::Utf8::ToUtf32(frame.label);
-    const int width = FontRenderer::Measure(label, size);
+    // Measured and handed over as UTF-8: a recording canvas keeps it as it is, inside a compound not at all.
+    const int width = FontRenderer::MeasureUtf8(frame.label, size);
     const Rect previous = canvas.Clip();
     canvas.SetClip(previous.Intersect(dst));
     TextStyle style;
     style.colour = WithOpacity(frame.labelColour, alpha);
     style.size = size;
-    canvas.Text(dst.x + (dst.w - width) / 2, dst.y + (dst.h - size) / 2, label, style);
+    canvas.TextUtf8(dst.x + (dst.w - width) / 2, dst.y + (dst.h - size) / 2, frame.label, style);
     canvas.SetClip(previous);
 }
 

@@ -24,13 +24,22 @@ DWORD OpaqueIfNoAlpha(DWORD colour) {
     return (colour & OPAQUE_ALPHA) == 0 ? colour | OPAQUE_ALPHA : colour;
 }
 
-std::u32string FromUtf8(const char* text) {
-    if (!text) return {};
-    return txt::Utf8::ToUtf32(std::string_view(text, strnlen(text, MAX_TEXT_LENGTH)));
+std::string_view Utf8View(const char* text) {
+    return text ? std::string_view(text, strnlen(text, MAX_TEXT_LENGTH)) : std::string_view();
 }
 
 std::u32string FromUtf16(const char16_t* text) {
     return txt::Utf8::Utf16ToUtf32(std::u16string_view(text, txt::Utf8::Utf16Length(text, MAX_TEXT_LENGTH)));
+}
+
+gfx::TextStyle MakeTextStyle(DWORD colour, int size, bool antialias, int style, DWORD effectColour) {
+    gfx::TextStyle textStyle;
+    textStyle.colour = OpaqueIfNoAlpha(colour);
+    textStyle.size = size;
+    textStyle.antialias = antialias;
+    textStyle.effect = style;
+    textStyle.effectColour = OpaqueIfNoAlpha(effectColour);
+    return textStyle;
 }
 
 void DrawText(int x, int y, DWORD colour, const std::u32string& text, int size, bool antialias, int style,
@@ -40,13 +49,21 @@ void DrawText(int x, int y, DWORD colour, const std::u32string& text, int size, 
         *pOutSize = {gfx::FontRenderer::Measure(text, size), gfx::FontRenderer::MeasureHeight(text, size)};
     }
     if (text.empty()) return;
-    gfx::TextStyle textStyle;
-    textStyle.colour = OpaqueIfNoAlpha(colour);
-    textStyle.size = size;
-    textStyle.antialias = antialias;
-    textStyle.effect = style;
-    textStyle.effectColour = OpaqueIfNoAlpha(effectColour);
-    gfx::GraphicsState::Instance().Canvas().Text(x, y, text, textStyle);
+    gfx::GraphicsState::Instance().Canvas().Text(x, y, text,
+                                                 MakeTextStyle(colour, size, antialias, style, effectColour));
+}
+
+// The same for UTF-8, which the canvas converts only when it needs to: texts are drawn every frame.
+void DrawTextUtf8(int x, int y, DWORD colour, std::string_view text, int size, bool antialias, int style,
+                  DWORD effectColour, SIZE* pOutSize) {
+    size = gfx::FontRenderer::ClampSize(FontSizeOr(size));
+    if (pOutSize) {
+        *pOutSize = {gfx::FontRenderer::MeasureUtf8(text, size),
+                     gfx::FontRenderer::MeasureHeightUtf8(text, size)};
+    }
+    if (text.empty()) return;
+    gfx::GraphicsState::Instance().Canvas().TextUtf8(
+        x, y, text, MakeTextStyle(colour, size, antialias, style, effectColour));
 }
 } // namespace
 
@@ -58,12 +75,12 @@ void CMyBitmap::ShowStringW(int x, int y, DWORD dwColor, const char16_t* szText,
 
 void CMyBitmap::ShowString(int x, int y, DWORD dwColor, const char* szText, const char*, int nFontSize,
                            bool bAntialias, int nStyle, DWORD dwEffectColor, SIZE* pOutSize, const void*) {
-    DrawText(gfx::ClampCoord(x), gfx::ClampCoord(y), dwColor, FromUtf8(szText), nFontSize, bAntialias, nStyle,
-             dwEffectColor, pOutSize);
+    DrawTextUtf8(gfx::ClampCoord(x), gfx::ClampCoord(y), dwColor, Utf8View(szText), nFontSize, bAntialias,
+                 nStyle, dwEffectColor, pOutSize);
 }
 
 int CMyBitmap::GetStringWidth(const char* szText, int nFontSize) {
-    return gfx::FontRenderer::Measure(FromUtf8(szText), FontSizeOr(nFontSize));
+    return gfx::FontRenderer::MeasureUtf8(Utf8View(szText), FontSizeOr(nFontSize));
 }
 
 int CMyBitmap::GetStringWidthW(const char16_t* szText, int nFontSize) {

@@ -14,6 +14,17 @@ Rect AtLeastOnePixel(const Rect& rc) {
     return {rc.x, rc.y, std::max(rc.w, 1), std::max(rc.h, 1)};
 }
 
+void FillText(host::DrawOp& op, const Rect& place, int size, DWORD colour, std::string_view text) {
+    op.kind = "text";
+    op.x = place.x;
+    op.y = place.y;
+    op.w = place.w;
+    op.h = place.h;
+    op.colour = colour;
+    op.size = size;
+    op.text.assign(text);
+}
+
 bool Inside(const Rect& inner, const Rect& outer) {
     return inner.x >= outer.x && inner.y >= outer.y && inner.Right() <= outer.Right() &&
            inner.Bottom() <= outer.Bottom();
@@ -34,24 +45,36 @@ void RecordingCanvas::Begin(int width, int height, DWORD) {
 // NOTE: the primitives return at once inside a compound: its parts are never recorded, so neither their
 // operation nor a text's measure and UTF-8 form is worth building.
 
-void RecordingCanvas::Record(host::DrawOp op, const Rect& bounds, Content content) {
+bool RecordingCanvas::Admit(const host::DrawOp& op, const Rect& bounds, Content content) {
     if (content == Content::TextOrPicture) CheckInsideWindow(op, bounds);
-    if (bounds.Intersect(m_clip).Empty()) return;
+    return Kept(bounds);
+}
+
+bool RecordingCanvas::Kept(const Rect& bounds) {
+    if (bounds.Intersect(m_clip).Empty()) return false;
     if (m_ops.size() >= host::MAX_RECORDED_OPS) {
         ++m_dropped;
-        return;
+        return false;
     }
-    m_ops.push_back(std::move(op));
+    return true;
+}
+
+void RecordingCanvas::Record(const host::DrawOp& op, const Rect& bounds, Content content) {
+    if (Admit(op, bounds, content)) m_ops.push_back(op);
+}
+
+void RecordingCanvas::Record(host::DrawOp&& op, const Rect& bounds, Content content) {
+    if (Admit(op, bounds, content)) m_ops.push_back(std::move(op));
 }
 
 void RecordingCanvas::FillRect(const Rect& rc, DWORD colour) {
     if (rc.Empty() || m_compoundDepth > 0) return;
-    Record(OpBuilder("block", rc).Colour(colour), rc, Content::Shape);
+    Record(OpBuilder("block", rc).Colour(colour).Take(), rc, Content::Shape);
 }
 
 void RecordingCanvas::OutlineRect(const Rect& rc, DWORD colour) {
     if (rc.Empty() || m_compoundDepth > 0) return;
-    Record(OpBuilder("rect", rc).Colour(colour), rc, Content::Shape);
+    Record(OpBuilder("rect", rc).Colour(colour).Take(), rc, Content::Shape);
 }
 
 void RecordingCanvas::Line(int x1, int y1, int x2, int y2, DWORD colour) {
@@ -60,20 +83,42 @@ void RecordingCanvas::Line(int x1, int y1, int x2, int y2, DWORD colour) {
     const int dy = SaturatedAdd(y2, -static_cast<long long>(y1));
     const Rect bounds{std::min(x1, x2), std::min(y1, y2), SaturatedAdd(std::llabs(dx), 1),
                       SaturatedAdd(std::llabs(dy), 1)};
-    Record(OpBuilder("line", {x1, y1, dx, dy}).Colour(colour), bounds, Content::Shape);
+    Record(OpBuilder("line", {x1, y1, dx, dy}).Colour(colour).Take(), bounds, Content::Shape);
 }
 
 void RecordingCanvas::Text(int x, int y, const std::u32string& text, const TextStyle& style) {
     if (text.empty() || m_compoundDepth > 0) return;
     const int size = FontRenderer::ClampSize(style.size);
     const Rect place{x, y, FontRenderer::Measure(text, size), FontRenderer::MeasureHeight(text, size)};
-    Record(OpBuilder("text", place).Colour(style.colour).Size(size).Text(txt::Utf8::FromUtf32(text)),
+    Record(OpBuilder("text", place).Colour(style.colour).Size(size).Text(txt::Utf8::FromUtf32(text)).Take(),
            AtLeastOnePixel(place), Content::TextOrPicture);
+}
+
+void RecordingCanvas::TextUtf8(int x, int y, std::string_view text, const TextStyle& style) {
+    if (text.empty() || m_compoundDepth > 0) return;
+    // NOTE: only ASCII is recorded as given: any other text goes through its UTF-32 form, so that a broken
+    // byte is recorded as the replacement character that is drawn.
+    if (!txt::Utf8::IsAscii(text)) {
+        Text(x, y, txt::Utf8::ToUtf32(text), style);
+        return;
+    }
+    const int size = FontRenderer::ClampSize(style.size);
+    const Rect place{x, y, FontRenderer::MeasureUtf8(text, size),
+                     FontRenderer::MeasureHeightUtf8(text, size)};
+    const Rect bounds = AtLeastOnePixel(place);
+    // The operation is filled in where it is kept: a text is recorded per label per frame. Only one that
+    // reaches past its window is built on its own as well, for the window check.
+    if (!m_windows.empty() && !Inside(bounds, m_windows.back().rect)) {
+        host::DrawOp op;
+        FillText(op, place, size, style.colour, text);
+        CheckInsideWindow(op, bounds);
+    }
+    if (Kept(bounds)) FillText(m_ops.emplace_back(), place, size, style.colour, text);
 }
 
 void RecordingCanvas::DrawImage(const Image&, const Rect&, const Rect& dst, int alpha) {
     if (dst.Empty() || m_compoundDepth > 0) return;
-    Record(OpBuilder("image", dst).Colour(static_cast<DWORD>(alpha)), dst, Content::TextOrPicture);
+    Record(OpBuilder("image", dst).Colour(static_cast<DWORD>(alpha)).Take(), dst, Content::TextOrPicture);
 }
 
 void RecordingCanvas::BeginCompound(const host::DrawOp& op) {

@@ -24,6 +24,7 @@ public:
     void OutlineRect(const Rect& rc, DWORD colour) override;
     void Line(int x1, int y1, int x2, int y2, DWORD colour) override;
     void Text(int x, int y, const std::u32string& text, const TextStyle& style) override;
+    void TextUtf8(int x, int y, std::string_view text, const TextStyle& style) override;
     void DrawImage(const Image& image, const Rect& src, const Rect& dst, int alpha) override;
     void BeginCompound(const host::DrawOp& op) override;
     void EndCompound() override;
@@ -38,8 +39,16 @@ private:
     /// Texts and pictures are checked against the window drawing them; shapes are the toolkit's own marks
     /// (selections, carets, bars).
     enum class Content { Shape, TextOrPicture };
-    /// Keeps op, which touches the pixels of bounds, unless it is wholly outside the clip.
-    void Record(host::DrawOp op, const Rect& bounds, Content content);
+    /// Keeps op, which touches the pixels of bounds, unless it is wholly outside the clip (copied when the
+    /// caller keeps it, moved when not).
+    void Record(const host::DrawOp& op, const Rect& bounds, Content content);
+    void Record(host::DrawOp&& op, const Rect& bounds, Content content);
+    /// Whether op is kept (checked against its window on the way); counts it as dropped when there is no
+    /// room.
+    bool Admit(const host::DrawOp& op, const Rect& bounds, Content content);
+    /// Whether an operation over bounds is kept: not wholly outside the clip, and room left (else it counts
+    /// as dropped).
+    bool Kept(const Rect& bounds);
     /// Keeps op when it reaches past the window drawing it.
     void CheckInsideWindow(const host::DrawOp& op, const Rect& bounds);
 

@@ -33,6 +33,11 @@ void TeeCanvas::Text(int x, int y, const std::u32string& text, const TextStyle& 
     m_second.Text(x, y, text, style);
 }
 
+void TeeCanvas::TextUtf8(int x, int y, std::string_view text, const TextStyle& style) {
+    m_primary.TextUtf8(x, y, text, style);
+    m_second.TextUtf8(x, y, text, style);
+}
+
 void TeeCanvas::DrawImage(const Image& image, const Rect& src, const Rect& dst, int alpha) {
     m_primary.DrawImage(image, src, dst, alpha);
     m_second.DrawImage(image, src, dst, alpha);

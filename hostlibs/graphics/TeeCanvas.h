@@ -21,6 +21,7 @@ public:
     void OutlineRect(const Rect& rc, DWORD colour) override;
     void Line(int x1, int y1, int x2, int y2, DWORD colour) override;
     void Text(int x, int y, const std::u32string& text, const TextStyle& style) override;
+    void TextUtf8(int x, int y, std::string_view text, const TextStyle& style) override;
     void DrawImage(const Image& image, const Rect& src, const Rect& dst, int alpha) override;
     void BeginCompound(const host::DrawOp& op) override;
     void EndCompound() override;

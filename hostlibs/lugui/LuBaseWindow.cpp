@@ -14,14 +14,28 @@
 #include "LuGui.h"
 #include "LuGui_internal.h"
 #include "LuLayoutRecord.h"
+#include "MyAni.h"
 #include "PostedMessages.h"
+#include "graphics/AniCache.h"
+#include "graphics/AniHandle.h"
 
 namespace LuGui {
 
 namespace {
 // Layout numbers are outside text: sums saturate instead of overflowing.
+constexpr int FULL_ALPHA = 255;
+
 LONG AddSaturated(long long a, long long b) {
     return static_cast<LONG>(std::clamp<long long>(a + b, INT32_MIN, INT32_MAX));
+}
+
+// Bumped whenever any window moves or is attached to a dialog: a control's screen rectangle depends on its
+// dialog's place as well as its own, and moves are rare next to the lookups of a frame. Starts at 1 so that a
+// new window's cache (version 0) is stale.
+unsigned g_nGeometryVersion = 1;
+
+void GeometryChanged() {
+    if (++g_nGeometryVersion == 0) g_nGeometryVersion = 1;
 }
 } // namespace
 
@@ -74,9 +88,12 @@ void CLuBaseWindow::GetWindowRect(RECT* pRect) const {
 }
 
 RECT CLuBaseWindow::GetWindowRect() const {
+    if (m_nScreenVersion == g_nGeometryVersion) return m_rcScreen;
     const POINT origin = GetParentOrigin();
-    return RECT{AddSaturated(m_rc.left, origin.x), AddSaturated(m_rc.top, origin.y),
-                AddSaturated(m_rc.right, origin.x), AddSaturated(m_rc.bottom, origin.y)};
+    m_rcScreen = RECT{AddSaturated(m_rc.left, origin.x), AddSaturated(m_rc.top, origin.y),
+                      AddSaturated(m_rc.right, origin.x), AddSaturated(m_rc.bottom, origin.y)};
+    m_nScreenVersion = g_nGeometryVersion;
+    return m_rcScreen;
 }
 
 RECT CLuBaseWindow::GetDrawRect() const {
@@ -111,6 +128,7 @@ void CLuBaseWindow::ClientToScreen(POINT* pPoint) const {
 
 void CLuBaseWindow::MoveWindow(int x, int y, int nWidth, int nHeight, BOOL) {
     m_rc = RECT{x, y, AddSaturated(x, std::max(0, nWidth)), AddSaturated(y, std::max(0, nHeight))};
+    GeometryChanged();
 }
 
 BOOL CLuBaseWindow::SetWindowPos(const CLuBaseWindow* pInsertAfter, int x, int y, int cx, int cy,
@@ -161,11 +179,13 @@ void CLuBaseWindow::ProcessMouseMove() {
 
 void CLuBaseWindow::SetBackGroundAni(const char* szTitle) {
     m_strBgAni = szTitle ? szTitle : "";
+    m_nBgAniVersion = 0;
     if (!m_strBgAni.empty()) m_bShowBackGround = true;
 }
 
 void CLuBaseWindow::SetBackGroundAniFile(const char* szFile) {
     m_strBgAniFile = szFile && *szFile ? szFile : CONTROL_ANI_FILE;
+    m_nBgAniVersion = 0;
 }
 
 void CLuBaseWindow::SetBgEffect(CGui3DEffect* pEffect) {
@@ -183,7 +203,18 @@ void CLuBaseWindow::ShowBackGround() {
     RECT rc = GetWindowRect();
     rc = RECT{rc.left + m_ptBgOffset.x, rc.top + m_ptBgOffset.y, rc.right + m_ptBgOffset.x,
               rc.bottom + m_ptBgOffset.y};
-    CGameGraphic::ShowAniRect(m_strBgAniFile.c_str(), m_strBgAni.c_str(), m_nCurFrame, rc);
+    if (CMyAni* pAni = BackGroundAni())
+        pAni->ShowStretch(m_nCurFrame < 0 ? pAni->FrameByTime() : m_nCurFrame, rc, FULL_ALPHA);
+}
+
+CMyAni* CLuBaseWindow::BackGroundAni() {
+    gfx::AniCache& cache = gfx::AniCache::Instance();
+    const unsigned long long nVersion = cache.Version();
+    if (m_nBgAniVersion != nVersion) {
+        m_pBgAni = cache.Animation(m_strBgAniFile, m_strBgAni);
+        m_nBgAniVersion = nVersion;
+    }
+    return m_pBgAni;
 }
 
 // ---- text ----------------------------------------------------------------------------------------
@@ -200,6 +231,7 @@ void CLuToolkit::Attach(CLuBaseWindow& wnd, ILuGuiMgr* pMgr, CLuDialog* pParent,
     wnd.m_pParent = pParent;
     wnd.m_nId = nId;
     wnd.m_pLayout = pLayout;
+    GeometryChanged();
     wnd.ApplyLayout();
 }
 

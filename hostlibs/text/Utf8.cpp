@@ -1,6 +1,10 @@
 // UTF-8 coding with bounded reads; broken input never stops decoding, it becomes replacement characters.
 #include "Utf8.h"
 
+#include <algorithm>
+#include <cstdint>
+#include <cstring>
+
 namespace txt {
 namespace {
 constexpr std::size_t MAX_SEQUENCE = 4;
@@ -125,19 +129,36 @@ std::size_t Utf8::CutAtBoundary(std::string_view text, std::size_t limit) {
     return text.size() <= limit ? text.size() : PreviousBoundary(text, limit + 1);
 }
 
+bool Utf8::IsAscii(std::string_view text) {
+    // Eight bytes at a time: texts are checked every frame.
+    constexpr std::uint64_t HIGH_BITS = 0x8080808080808080ULL;
+    constexpr std::size_t CHUNK = sizeof(std::uint64_t);
+    std::size_t pos = 0;
+    for (; pos + CHUNK <= text.size(); pos += CHUNK) {
+        std::uint64_t chunk = 0;
+        std::memcpy(&chunk, text.data() + pos, CHUNK);
+        if (chunk & HIGH_BITS) return false;
+    }
+    for (; pos < text.size(); ++pos)
+        if (static_cast<unsigned char>(text[pos]) >= 0x80) return false;
+    return true;
+}
+
 std::u32string Utf8::ToUtf32(std::string_view text) {
-    std::u32string out;
-    out.reserve(text.size());
+    // Never more characters than bytes: written in place and cut to length, without a check per character.
+    std::u32string out(text.size(), U'\0');
+    std::size_t n = 0;
     for (std::size_t pos = 0; pos < text.size();) {
         // ASCII needs no decoding: texts are drawn every frame and are mostly ASCII.
         const auto c = static_cast<unsigned char>(text[pos]);
         if (c < 0x80) {
-            out += static_cast<char32_t>(c);
+            out[n++] = static_cast<char32_t>(c);
             ++pos;
             continue;
         }
-        out += Decode(text, pos);
+        out[n++] = Decode(text, pos);
     }
+    out.resize(n);
     return out;
 }
 
@@ -158,13 +179,17 @@ std::u16string Utf8::ToUtf16(std::string_view text) {
 }
 
 std::string Utf8::FromUtf32(std::u32string_view text) {
-    std::string out;
-    out.reserve(text.size());
-    for (char32_t c : text) {
-        if (c < 0x80)
-            out += static_cast<char>(c);
+    // The leading ASCII run (mostly the whole text) is copied in one go; the rest is encoded one by one.
+    const auto firstWide = std::find_if(text.begin(), text.end(), [](char32_t c) { return c >= 0x80; });
+    std::string out(static_cast<std::size_t>(firstWide - text.begin()), '\0');
+    std::transform(text.begin(), firstWide, out.begin(), [](char32_t c) { return static_cast<char>(c); });
+    if (firstWide == text.end()) return out;
+    out.reserve(text.size() + text.size() / 2);
+    for (auto it = firstWide; it != text.end(); ++it) {
+        if (*it < 0x80)
+            out += static_cast<char>(*it);
         else
-            Append(out, c);
+            Append(out, *it);
     }
     return out;
 }

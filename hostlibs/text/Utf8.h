@@ -26,6 +26,8 @@ public:
     static void Append(std::string& out, char32_t c);
     /// Whether the byte can start a multi-byte sequence (0xC2 to 0xF4).
     static bool IsLeadByte(unsigned char c);
+    /// Whether every byte is below 0x80 (such a text reads the same in every form).
+    static bool IsAscii(std::string_view text);
 
     /// The first character boundary after pos / the last one before pos (the ends of the text stay), for any
     /// pos, also one inside a character. Boundaries are where decoding from the start begins a character.

@@ -9,6 +9,7 @@
 #include "BaseLib.h"
 
 class CGui3DEffect;
+class CMyAni;
 
 namespace LuGui {
 
@@ -216,6 +217,16 @@ private:
     friend class CLuToolkit;
     /// Applies the layout keys every window understands.
     void ApplyLayout();
+
+    /// The screen rectangle as last computed and the geometry version it was computed at: hit tests, clips
+    /// and draws ask for it many times a frame, and it changes only when a window moves or is attached.
+    mutable RECT m_rcScreen{0, 0, 0, 0};
+    mutable unsigned m_nScreenVersion = 0;
+    /// The background animation as last found and the animation cache's version it was found in (0: not
+    /// looked up): found once, not per frame.
+    CMyAni* BackGroundAni();
+    CMyAni* m_pBgAni = nullptr;
+    unsigned long long m_nBgAniVersion = 0;
 };
 
 } // namespace LuGui

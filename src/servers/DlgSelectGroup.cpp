@@ -153,10 +153,11 @@ int CDlgSelectGroup::Show() {
     IScreenContext* pContext = ScreenContext();
     if (!pContext) return nResult;
     for (const CSimButton& button : m_btnGroup) {
+        // Only the button under the cursor can show a tip: its group's configuration alone is looked up.
         const int nGroup = GroupOfButton(button);
-        if (nGroup < 0) continue;
+        if (nGroup < 0 || !IsCursorOver(button)) continue;
         const SCfgGroup* pCfg = pContext->GetCfgGroup(pContext->GetModel(), nGroup);
-        if (pCfg && pCfg->bSpecialMark && !pCfg->strGroupTips.empty() && IsCursorOver(button))
+        if (pCfg && pCfg->bSpecialMark && !pCfg->strGroupTips.empty())
             ShowTipUnder(button, pCfg->strGroupTips.c_str());
     }
     return nResult;

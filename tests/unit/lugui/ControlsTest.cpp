@@ -2,6 +2,7 @@
 // frames of buttons and check boxes, and the effect objects windows own.
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <map>
 #include <memory>
 
@@ -124,6 +125,34 @@ TEST_F(ControlsTest, HiddenControlsAndHiddenStatesDrawNothingAndTakeNoClicks) {
     EXPECT_EQ(ClickOn(m_dlg.m_button), 0) << "a dialog in its hidden state is not hit";
     EXPECT_THAT(m_dlg.TakePreTranslated(), IsEmpty());
     EXPECT_THAT(m_dlg.TakeCalls(), testing::Not(testing::Contains("OnButton")));
+}
+
+// A window keeps its screen rectangle and background animation between frames; both must follow changes made
+// after a frame was drawn.
+TEST_F(ControlsTest, AButtonDrawnOnceFollowsItsDialogsMoveAndANewBackground) {
+    Start();
+    Open(m_dlg);
+    LuGui::CLuButton& btn = m_dlg.m_button;
+    host::SetCursor(0, 0);
+    const RECT before = btn.GetWindowRect();
+    ASSERT_EQ(DrawnFrame(Frame(), "Btn4"), 0);
+
+    m_dlg.MoveWindow(m_dlg.GetWindowRect().left + 7, m_dlg.GetWindowRect().top + 5, m_dlg.GetWidth(),
+                     m_dlg.GetHeight());
+    const RECT after = btn.GetWindowRect();
+    EXPECT_EQ(after.left, before.left + 7);
+    EXPECT_EQ(after.bottom, before.bottom + 5);
+    std::vector<host::DrawOp> ops = Frame();
+    const auto drawn =
+        std::find_if(ops.begin(), ops.end(), [](const host::DrawOp& op) { return op.name == "Btn4"; });
+    ASSERT_NE(drawn, ops.end());
+    EXPECT_EQ(drawn->x, after.left) << "drawn where the button is now";
+    EXPECT_EQ(drawn->y, after.top);
+
+    btn.SetBackGroundAni("Btn1");
+    ops = Frame();
+    EXPECT_EQ(DrawnFrame(ops, "Btn4"), -1);
+    EXPECT_EQ(DrawnFrame(ops, "Btn1"), 0);
 }
 
 TEST_F(ControlsTest, ButtonFramesFollowHoverPressAndDisabledWhenTheAnimationHasThem) {
