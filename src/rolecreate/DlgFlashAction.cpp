@@ -5,8 +5,6 @@
 #include "platform/GameBase.h"
 #include "platform/Graphics.h"
 #include "platform/Role.h"
-#include "platform/Sound.h"
-#include "resources/SelectHeadMgr.h"
 #include "rolecreate/DlgFlashBack.h"
 #include "rolecreate/DlgFlashBaseInfo.h"
 #include "rolecreate/DlgFlashProIntro.h"
@@ -24,7 +22,6 @@ constexpr int LABEL_FONT_HEIGHT = 14;
 constexpr const char* LEFT_PICTURE = "CreRole_HWZPic";
 constexpr const char* RIGHT_PICTURE = "CreRole_HWYPic";
 constexpr const char* FRAME_PICTURE = "CreRole_rwzsbk";
-constexpr const char* VOLUME_SETTING = "gSoundVolume";
 /// The action each button plays: stand and attack show the figure, run plays its leave action.
 constexpr int BUTTON_ACTIONS[CDlgFlashAction::ACTION_BUTTONS] = {ROLE_ACTION_SHOW, ROLE_ACTION_LEAVE,
                                                                  ROLE_ACTION_SHOW};
@@ -129,16 +126,10 @@ int CDlgFlashAction::Show() {
 
 LRESULT CDlgFlashAction::WindowProc(UINT uMsg, WPARAM wParam, LPARAM lParam) {
     if (uMsg == WM_SHOWWINDOW) {
-        if (wParam != 0) {
-            m_nSavedVolume = DXGetSoundVolume();
-            DXSetSoundVolume(SOUND_VOLUME_SHOWN, VOLUME_SETTING);
-        } else {
-            CMyBitmap::EnableLight(false);
-            CameraQuery()->SetCameraObj(0, false);
-            CSelectHeadMgr::DestroyInstance();
-            DXSetSoundVolume(m_nSavedVolume, VOLUME_SETTING);
-            DXCloseAllSound("CloseAllSound");
-        }
+        if (wParam != 0)
+            m_volume.OnShown();
+        else
+            m_volume.OnHidden();
     }
     return CSimDialog::WindowProc(uMsg, wParam, lParam);
 }

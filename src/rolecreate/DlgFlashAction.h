@@ -10,6 +10,7 @@
 #include "controls/SimDialog.h"
 #include "controls/SimImage.h"
 #include "controls/SimStatic.h"
+#include "rolecreate/CreationVolume.h"
 #include "rolecreate/RolePreview.h"
 
 class CDlgFlashBaseInfo;
@@ -30,7 +31,6 @@ public:
     /// to the bottom).
     static constexpr std::uint32_t STR_PANEL_PLACE = 9000016;
     static constexpr std::uint32_t STR_COLUMN_PLACE = 9000017;
-    static constexpr int SOUND_VOLUME_SHOWN = 100;
 
     CDlgFlashAction();
     ~CDlgFlashAction() override;
@@ -66,7 +66,7 @@ private:
     void PlaceSides();
 
     CRolePreview m_preview{CRolePreview::SOptions{true, false, true}};
-    int m_nSavedVolume = 0;
+    CCreationVolume m_volume;
     std::array<CSimCheck, ACTION_BUTTONS> m_chkActions;
     std::array<CSimStatic, ACTION_BUTTONS> m_staLabels;
     CSimButton m_btnModelArea;

@@ -7,8 +7,6 @@
 #include "platform/GameBase.h"
 #include "platform/GameData.h"
 #include "platform/Graphics.h"
-#include "platform/Sound.h"
-#include "resources/SelectHeadMgr.h"
 #include "rolecreate/CreationGates.h"
 #include "rolecreate/DlgFlashSelectHead.h"
 #include "rolecreate/DlgFlashSelectPro.h"
@@ -17,7 +15,6 @@
 namespace {
 constexpr const char* EXPLAIN_TITLE = "Login_CreateRoleExplainTitle";
 constexpr const char* EXPLAIN_PICTURE = "Login_CreateRoleExplainPic";
-constexpr const char* VOLUME_SETTING = "gSoundVolume";
 constexpr int TITLE_BUFFER = 64;
 // NOTE: 64 characters of at most 4 UTF-8 bytes each, and room to see that a name reaches the refusal.
 constexpr int NAME_BUFFER = CDlgFlashCreateRole::NAME_LIMIT_CHARS * 4 + 1;
@@ -143,18 +140,13 @@ void CDlgFlashCreateRole::OnCreate() {
 }
 
 void CDlgFlashCreateRole::OnShown() {
-    m_nSavedVolume = DXGetSoundVolume();
-    DXSetSoundVolume(SOUND_VOLUME_SHOWN, VOLUME_SETTING);
+    m_volume.OnShown();
 }
 
 void CDlgFlashCreateRole::OnHidden() {
     if (m_pSelectPro) m_pSelectPro->ShowWindow(SW_HIDE);
     if (m_pSelectHead) m_pSelectHead->ShowWindow(SW_HIDE);
-    CMyBitmap::EnableLight(false);
-    CameraQuery()->SetCameraObj(0, false);
-    CSelectHeadMgr::DestroyInstance();
-    DXSetSoundVolume(m_nSavedVolume, VOLUME_SETTING);
-    DXCloseAllSound("CloseAllSound");
+    m_volume.OnHidden();
 }
 
 LRESULT CDlgFlashCreateRole::WindowProc(UINT uMsg, WPARAM wParam, LPARAM lParam) {

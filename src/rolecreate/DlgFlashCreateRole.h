@@ -8,6 +8,7 @@
 #include "controls/SimDialog.h"
 #include "controls/SimEdit.h"
 #include "controls/SimStatic.h"
+#include "rolecreate/CreationVolume.h"
 #include "rolecreate/RolePreview.h"
 
 class CDlgFlashSelectPro;
@@ -32,7 +33,6 @@ public:
     static constexpr int NAME_REFUSED_BYTES = 65;
     static constexpr std::uint32_t STR_NAME_TIP = 3110017;
     static constexpr std::uint32_t STR_NAME_TOO_LONG = 3110020;
-    static constexpr int SOUND_VOLUME_SHOWN = 100;
 
     CDlgFlashCreateRole();
     ~CDlgFlashCreateRole() override;
@@ -75,7 +75,7 @@ private:
     std::array<LuGui::CLuCtrl*, 5> CreationControls();
 
     CRolePreview m_preview{CRolePreview::SOptions{false, true}};
-    int m_nSavedVolume = 0;
+    CCreationVolume m_volume;
     CSimStatic m_staNameLabel;
     CSimEdit m_edtName;
     CSimButton m_btnCreate;
