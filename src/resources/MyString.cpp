@@ -32,7 +32,7 @@ bool IsDigit(char c) {
     return std::isdigit(static_cast<unsigned char>(c)) != 0;
 }
 
-// The spec of one replacement field (after ':') with every width and precision cut to the longest text and
+// The format of one replacement field (after ':') with every width and precision cut to the longest text and
 // dynamic ones ("{:{}}") dropped, so that a format from a file cannot ask for gigabytes of padding.
 void AppendBoundedSpec(std::string_view spec, std::string& out) {
     std::size_t i = 0;
