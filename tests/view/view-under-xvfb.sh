@@ -36,6 +36,8 @@ wait_for test -s "$out/display" || fail "Xvfb did not start"
 export DISPLAY=":$(head -1 "$out/display")"
 # Xvfb has no GPU: the software renderer draws the window, without a GL driver's threads.
 export SDL_RENDER_DRIVER=software SDL_FRAMEBUFFER_ACCELERATION=0
+# Under AddressSanitizer: what D-Bus keeps for the process is not ours.
+export LSAN_OPTIONS="suppressions=$(cd "$(dirname "$0")" && pwd)/lsan.supp${LSAN_OPTIONS:+:$LSAN_OPTIONS}"
 
 cat >"$out/login.scn" <<'SCN'
 set VAR_VERSION 1.0.3
