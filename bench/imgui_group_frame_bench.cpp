@@ -6,22 +6,15 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <filesystem>
-#include <fstream>
 #include <map>
-#include <sstream>
 #include <string>
 #include <vector>
 
-#include "TempClientDir.h"
-#include "hostlibs/HostCanvas.h"
-#include "hostlibs/HostEnv.h"
-#include "simulator/DialogSet.h"
-#include "simulator/FlashSimulator.h"
+#include "GroupScreen.h"
 
 namespace {
 
-constexpr int GROUPS = 80;
+constexpr int GROUPS = SGroupScreen::GROUPS;
 constexpr int SCREEN_WIDTH = 1024;
 constexpr int SCREEN_HEIGHT = 768;
 constexpr float FRAME_SECONDS = 1.0f / 60.0f;
@@ -30,66 +23,8 @@ constexpr const char* GROUP_TIP = "The oldest servers, open since the first day.
 constexpr const char* OURS = "BM_GroupFrame_Ours";
 constexpr const char* IMGUI = "BM_GroupFrame_DearImGui";
 
-std::string ReadSample(const std::string& relative) {
-    std::ifstream in(std::filesystem::path(FLASHSIM_RES_DIR) / relative, std::ios::binary);
-    std::ostringstream out;
-    out << in.rdbuf();
-    return out.str();
-}
-
-// Every group has one server whose achievement window is always open, and a tip.
-std::string ServerCfg() {
-    std::string text = "[Header]\nGroupAmount=" + std::to_string(GROUPS) + "\n";
-    for (int g = 1; g <= GROUPS; ++g)
-        text += "[Group" + std::to_string(g) +
-                "]\nServerAmount=1\nServer1=1\nAchTime1=0-2147483647\nAchTips1=1\n" +
-                "GroupTips=" + GROUP_TIP + "\nSpecialMark1=" + (g % 2 == 1 ? "1" : "0") + "\n";
-    return text;
-}
-
-// The group dialog with 80 groups, every other one marked, the cursor over the first (a marked one with a
-// tip).
-struct SGroupScreen {
-    TempClientDir dir;
-    CFlashSimulator* pSim = nullptr;
-    std::vector<RECT> buttons;
-    RECT dialog{};
-
-    SGroupScreen() {
-        for (const char* file :
-             {"FlashGui.ini", "ani/Control.ani", "ani/Gui3DEffect.ani", "ini/FlashString.ini"})
-            dir.Write(file, ReadSample(file));
-        dir.Write("ini/ServerCfg.ini", ServerCfg());
-        host::ClearGraphicsCaches();
-        host::UseCanvas(host::CanvasKind::Recording);
-        pSim = FlashSimQuery();
-        pSim->Create(0, 0, 0, true);
-        pSim->SetSceneType(EST_LOGIN);
-        pSim->OnSelectModel(2);
-        std::string groups = std::to_string(GROUPS) + "#";
-        std::string marks;
-        for (int i = 0; i < GROUPS; ++i) {
-            groups += "Group " + std::to_string(i + 1) + "|";
-            marks += std::string(i % 2 == 0 ? "1" : "0") + (i + 1 < GROUPS ? "|" : "");
-        }
-        pSim->SetVariable("VAR_SERVER_AREA", groups.c_str());
-        for (int i = 0; i < GROUPS; ++i) pSim->SetVariable("VAR_SERVER_NAME", "1#Server|");
-        pSim->SetVariable("VAR_CUR_VER", "2");
-        pSim->SetVariable("VAR_AREA_ACH_TIPS", marks.c_str());
-        CDlgSelectGroup& dlg = pSim->Dialogs().m_dlgSelectGroup;
-        dlg.RefillGroups();
-        for (int i = 0; i < GROUPS; ++i) buttons.push_back(dlg.GetGroupButton(i).GetWindowRect());
-        dialog = dlg.GetWindowRect();
-        host::SetCursor(buttons[0].left + 5, buttons[0].top + 5);
-    }
-    ~SGroupScreen() {
-        FlashSimDestroy();
-        host::ClearGraphicsCaches();
-    }
-};
-
 void BM_GroupFrame_Ours(benchmark::State& state) {
-    SGroupScreen screen;
+    SGroupScreen screen(GROUP_TIP);
     for (auto _ : state) {
         host::AdvanceClock(FRAME_MS);
         host::BeginFrame();
@@ -135,7 +70,7 @@ void BuildImGuiGroupScreen(const SGroupScreen& screen, const std::vector<std::st
 }
 
 void BM_GroupFrame_DearImGui(benchmark::State& state) {
-    const SGroupScreen screen;
+    const SGroupScreen screen(GROUP_TIP);
     std::vector<std::string> labels;
     for (int i = 0; i < GROUPS; ++i) labels.push_back("Group " + std::to_string(i + 1));
     ImGui::CreateContext();
