@@ -201,8 +201,8 @@ void CLuBaseWindow::SetFgEffect(CGui3DEffect* pEffect) {
 void CLuBaseWindow::ShowBackGround() {
     if (!m_bShowBackGround || m_strBgAni.empty()) return;
     RECT rc = GetWindowRect();
-    rc = RECT{rc.left + m_ptBgOffset.x, rc.top + m_ptBgOffset.y, rc.right + m_ptBgOffset.x,
-              rc.bottom + m_ptBgOffset.y};
+    const POINT ptMove{m_ptBgOffset.x + m_ptBgAniOffset.x, m_ptBgOffset.y + m_ptBgAniOffset.y};
+    rc = RECT{rc.left + ptMove.x, rc.top + ptMove.y, rc.right + ptMove.x, rc.bottom + ptMove.y};
     if (CMyAni* pAni = BackGroundAni())
         pAni->ShowStretch(m_nCurFrame < 0 ? pAni->FrameByTime() : m_nCurFrame, rc, FULL_ALPHA);
 }
@@ -291,6 +291,11 @@ void CLuBaseWindow::ApplyLayout() {
         int v[2] = {0, 0};
         CLayoutFile::ReadNumbers(sz, v);
         m_ptBgOffset = POINT{LayoutCoord(v[0]), LayoutCoord(v[1])};
+    }
+    if (const char* sz = rec.GetValue("TextOffset")) {
+        int v[2] = {0, 0};
+        CLayoutFile::ReadNumbers(sz, v);
+        m_ptTextOffset = POINT{LayoutCoord(v[0]), LayoutCoord(v[1])};
     }
     if (const char* sz = rec.GetValue("Frame")) m_nCurFrame = SafeAtoi(sz);
     if (const char* sz = rec.GetValue("Visible")) m_bVisible = ParseFlag(sz);

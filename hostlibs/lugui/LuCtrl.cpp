@@ -60,15 +60,17 @@ void CLuCtrl::ShowWindowText() {
         const int nRoom = std::max(0, GetWidth() - nTextWidth);
         x = rc.left + (m_nAlign == LU_ALIGN_CENTER ? nRoom / 2 : nRoom);
     }
-    const int y = rc.top + std::max(0, (GetHeight() - nFont) / 2);
+    x += m_ptTextOffset.x;
+    const int y = rc.top + m_ptTextOffset.y + std::max(0, (GetHeight() - nFont) / 2);
     CMyBitmap::ShowString(x, y, m_dwFontColor, m_strText.c_str(), CMyBitmap::GetDefaultFontName(), nFont);
 }
 
 void CLuCtrl::ShowMutiText() {
     const RECT rc = GetWindowRect();
     const int nFont = m_sizeFont.cy > 0 ? m_sizeFont.cy : CMyBitmap::GetFontSize();
-    CGameGraphic::ShowStrRes(rc.left, rc.top, m_strText.c_str(), 0, CMyBitmap::GetDefaultFontName(), nFont,
-                             m_dwFontColor, 0, m_bWrap ? GetWidth() : 0);
+    CGameGraphic::ShowStrRes(rc.left + m_ptTextOffset.x, rc.top + m_ptTextOffset.y, m_strText.c_str(), 0,
+                             CMyBitmap::GetDefaultFontName(), nFont, m_dwFontColor, 0,
+                             m_bWrap ? GetWidth() : 0);
 }
 
 void CLuCtrl::AdjustFrame() {

@@ -29,6 +29,8 @@ constexpr std::uint32_t STR_LEGEND_FIRST = 8000005;                         // f
 constexpr std::uint32_t STR_ZONE_CAPTIONS[3] = {8000109, 8000106, 8000107}; // captions 1157, 1158, 1159
 constexpr std::uint32_t STR_MINE = 8000160;
 constexpr std::uint32_t STR_ZONE_BG_OFFSET = 8000161;
+constexpr std::uint32_t STR_ZONE_TEXT_OFFSET = 8000162;
+constexpr std::uint32_t STR_MINE_TEXT_OFFSET = 8000163;
 constexpr std::uint32_t STR_PAGE_FORMAT = 8000166;
 constexpr std::uint32_t STR_COUNT_FORMAT = 8000167;
 constexpr std::uint32_t STR_NO_ROLE = 8000170;
@@ -39,6 +41,7 @@ constexpr std::uint32_t STR_ZONE_ANI_OFFSET = 8000178;
 constexpr std::uint32_t STR_ZONE_FONT_COLOUR = 8000180;
 constexpr std::uint32_t STR_DEFAULT_SERVER = 8000060;
 constexpr std::uint32_t STR_EMPTY_NAME = 3110018;
+constexpr std::uint32_t STR_ROW_TEXT_OFFSET = 3000188;
 
 constexpr const char* ZONE_SELECTED = "fwqopt_leftdb";
 constexpr const char* ROW_SELECTED = "fwqopt_onfwqlbdb";
@@ -167,10 +170,16 @@ BOOL CDlgFlashLoginEn::OnInitDialog() {
     StyleZoneButtons();
     FindNewServer();
     m_btnMine.SetWindowTextA(pContext->GetStr(STR_MINE));
+    int textOffset[2] = {0, 0};
+    READ_LAYOUT_NUMBERS(STR_MINE_TEXT_OFFSET, textOffset);
+    m_btnMine.SetTextOffset(textOffset[0], textOffset[1]);
+    textOffset[0] = textOffset[1] = 0;
+    READ_LAYOUT_NUMBERS(STR_ZONE_TEXT_OFFSET, textOffset);
     for (int i = 0; i < ZONES; ++i) {
         const char* szName = i < pContext->GetGroupCount() ? pContext->GetGroupName(i) : nullptr;
-        m_btnZone[static_cast<std::size_t>(i)].SetWindowTextA(szName ? szName
-                                                                     : pContext->GetStr(STR_EMPTY_NAME));
+        CSimButton& btnZone = m_btnZone[static_cast<std::size_t>(i)];
+        btnZone.SetWindowTextA(szName ? szName : pContext->GetStr(STR_EMPTY_NAME));
+        btnZone.SetTextOffset(textOffset[0], textOffset[1]);
     }
     int offset[2] = {0, 0};
     READ_LAYOUT_NUMBERS(STR_DIALOG_BG_OFFSET, offset);
@@ -203,9 +212,7 @@ void CDlgFlashLoginEn::StyleZoneButtons() {
     std::array<CSimButton*, ZONES + 1> buttons{&m_btnZone[0], &m_btnZone[1], &m_btnZone[2], &m_btnMine};
     for (CSimButton* pButton : buttons) {
         if (size[0] > 0 && size[1] > 0) pButton->SetFontSize(size[0], size[1]);
-        // NOTE: the toolkit has one background offset; the background's own offset (8000161) is set after the
-        // animation's (8000178), as the client sets them, so it is the one that counts.
-        pButton->SetBackGroundOffset(aniOffset[0], aniOffset[1]);
+        pButton->SetBackGroundAniOffset(aniOffset[0], aniOffset[1]);
         pButton->SetBackGroundOffset(bgOffset[0], bgOffset[1]);
         pButton->SetFontColor(dwColour);
     }
@@ -355,6 +362,9 @@ bool CDlgFlashLoginEn::FillMinePage(bool bFirst) {
         FillRow(nRow, nGroup, nServer);
         ++nRow;
     }
+    int rowTextOffset[2] = {0, 0};
+    READ_LAYOUT_NUMBERS(STR_ROW_TEXT_OFFSET, rowTextOffset);
+    for (SRow& row : m_rows) row.btnServer.SetTextOffset(rowTextOffset[0], rowTextOffset[1]);
     if (bFirst) {
         m_nPage = 1;
         SetPaging(nMapped);

@@ -121,6 +121,10 @@ public:
     bool IsBackGroundEnabled() const { return m_bShowBackGround; }
     void SetBackGroundOffset(int x, int y) { m_ptBgOffset = POINT{x, y}; }
     POINT GetBackGroundOffset() const { return m_ptBgOffset; }
+    /// Moves the background animation further, on top of the background offset: a style (a highlight
+    /// frame) may sit differently from the window's own background place.
+    void SetBackGroundAniOffset(int x, int y) { m_ptBgAniOffset = POINT{x, y}; }
+    POINT GetBackGroundAniOffset() const { return m_ptBgAniOffset; }
     /// The offset the toolkit adds when it draws the window's own picture (images).
     void SetDrawOffset(int x, int y) { m_ptDrawOffset = POINT{x, y}; }
     POINT GetDrawOffset() const { return m_ptDrawOffset; }
@@ -150,6 +154,10 @@ public:
     int GetMultiLine() const { return m_nMultiLine; }
     void SetWrap(bool bWrap) { m_bWrap = bWrap; }
     bool IsWrap() const { return m_bWrap; }
+    /// Where the text starts relative to its aligned place (layout key "TextOffset"; edits start 2 pixels
+    /// in).
+    void SetTextOffset(int x, int y) { m_ptTextOffset = POINT{x, y}; }
+    POINT GetTextOffset() const { return m_ptTextOffset; }
     /// The frame of the background animation to draw.
     virtual void SetCurFrame(int nFrame) { m_nCurFrame = nFrame; }
     int GetCurFrame() const { return m_nCurFrame; }
@@ -190,7 +198,9 @@ protected:
     std::string m_strBgAniFile;
     bool m_bShowBackGround = false;
     POINT m_ptBgOffset{0, 0};
+    POINT m_ptBgAniOffset{0, 0};
     POINT m_ptDrawOffset{0, 0};
+    POINT m_ptTextOffset{0, 0};
     RECT m_rcDrawMargin{0, 0, 0, 0};
     CGui3DEffect* m_pBgEffect = nullptr;
     CGui3DEffect* m_pFgEffect = nullptr;

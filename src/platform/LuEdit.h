@@ -11,7 +11,7 @@ public:
     /// The byte limit of a new edit.
     static constexpr int DEFAULT_LIMIT_TEXT = 1024;
 
-    CLuEdit() = default;
+    CLuEdit() { m_ptTextOffset = POINT{2, 0}; }
     ~CLuEdit() override = default;
 
     ELuCtrlKind GetKind() const override { return ELuCtrlKind::Edit; }
@@ -60,9 +60,8 @@ public:
     /// Input-method (Chinese) input; kept for the client's input method, typed characters arrive either way.
     void EnableChinese(bool bEnable) { m_bChinese = bEnable; }
     bool IsChineseEnabled() const { return m_bChinese; }
-    /// The client's font format (kept) and where the text starts inside the edit.
+    /// The client's font format (kept).
     void SetFontFormat(int nFormat) { m_nFontFormat = nFormat; }
-    void SetTextOffset(int x, int y) { m_ptTextOffset = POINT{x, y}; }
 
 protected:
     /// The text as drawn (stars for a password edit).
@@ -82,7 +81,6 @@ protected:
     UINT m_nHighSurrogate = 0;
     bool m_bChinese = true;
     int m_nFontFormat = 0;
-    POINT m_ptTextOffset{2, 0};
 };
 
 } // namespace LuGui

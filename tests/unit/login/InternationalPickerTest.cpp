@@ -103,6 +103,21 @@ TEST_F(InternationalPickerTest, NewServerSearchSeesTenRowsAndOtherwiseLeavesTheL
     host::SetData("newservers", "");
 }
 
+TEST_F(InternationalPickerTest, ZoneMineAndRowTextsTakeTheirOwnOffsets) {
+    Start("8000162=5 1\n8000163=-3 2\n3000188=7 -1\n8000161=1 1\n8000178=2 0\n", nullptr);
+    Picker().ShowWindow(SW_SHOW);
+    const auto offsetOf = [&](UINT nId) {
+        const POINT pt = Picker().GetControl(nId)->GetTextOffset();
+        return std::to_string(pt.x) + "," + std::to_string(pt.y);
+    };
+    for (UINT i = 0; i < 3; ++i) EXPECT_EQ(offsetOf(CDlgFlashLoginEn::IDC_ZONE + i), "5,1");
+    EXPECT_EQ(offsetOf(CDlgFlashLoginEn::IDC_MINE), "-3,2");
+    for (UINT i = 0; i < 10; ++i) EXPECT_EQ(offsetOf(CDlgFlashLoginEn::IDC_SERVER + i), "7,-1") << i;
+    const LuGui::CLuCtrl* pMine = Picker().GetControl(CDlgFlashLoginEn::IDC_MINE);
+    EXPECT_EQ(pMine->GetBackGroundOffset().x + pMine->GetBackGroundAniOffset().x, 3)
+        << "both background offsets count";
+}
+
 TEST_F(InternationalPickerTest, RoleListLabelsAndLoadsTheCurrentGroupsServerAndShowsTenRoles) {
     Start("8000169=%s / %s\n3110018=-\n", nullptr);
     Set("VAR_SERVERSTATUS", "1#1_450_1000_1|2_720_1000_1|3_0_1000_0|");

@@ -142,21 +142,24 @@ TEST_F(ClipTest, DrawingThatEscapesTheClipIsReportedAsSeenOutsideItsControl) {
     LuGui::CLuToolkit::ClearForCreation(m_dlg); // the control goes before the dialog
 }
 
-TEST_F(ClipTest, AlignedLabelsAreMeasuredByCells) {
+TEST_F(ClipTest, AlignedLabelsAreMeasuredByCellsThenMovedByTheirTextOffset) {
     // A multi-byte character takes the full size, a single-byte one half: "中ab" is 14 + 7 + 7 = 28 wide.
-    Start(LayoutWith("Dialog2000.10", "Align = center\n"));
+    Start(LayoutWith("Dialog2000.10", "Align = center\nTextOffset = 3 -2\n"));
     Open(m_dlg);
     m_dlg.m_button.SetWindowTextA("\xE4\xB8\xAD"
                                   "ab");
     auto texts = OpsOfKind(Frame(), "text");
     ASSERT_FALSE(texts.empty());
-    EXPECT_EQ(texts[0].x, 110 + (80 - 28) / 2);
+    EXPECT_EQ(texts[0].x, 110 + (80 - 28) / 2 + 3);
     EXPECT_EQ(texts[0].w, 28);
+    const int nCentredTop = texts[0].y + 2;
 
     m_dlg.m_button.SetAlign(LuGui::LU_ALIGN_RIGHT);
+    m_dlg.m_button.SetTextOffset(-4, 5);
     texts = OpsOfKind(Frame(), "text");
     ASSERT_FALSE(texts.empty());
-    EXPECT_EQ(texts[0].x, 190 - 28);
+    EXPECT_EQ(texts[0].x, 190 - 28 - 4);
+    EXPECT_EQ(texts[0].y, nCentredTop + 5);
 }
 
 } // namespace

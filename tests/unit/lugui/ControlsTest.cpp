@@ -153,6 +153,16 @@ TEST_F(ControlsTest, AButtonDrawnOnceFollowsItsDialogsMoveAndANewBackground) {
     ops = Frame();
     EXPECT_EQ(DrawnFrame(ops, "Btn4"), -1);
     EXPECT_EQ(DrawnFrame(ops, "Btn1"), 0);
+
+    // A style's own offset moves the background animation further than the window's background offset.
+    btn.SetBackGroundOffset(2, 3);
+    btn.SetBackGroundAniOffset(4, -5);
+    ops = Frame();
+    const auto moved =
+        std::find_if(ops.begin(), ops.end(), [](const host::DrawOp& op) { return op.name == "Btn1"; });
+    ASSERT_NE(moved, ops.end());
+    EXPECT_EQ(moved->x, after.left + 6);
+    EXPECT_EQ(moved->y, after.top - 2);
 }
 
 TEST_F(ControlsTest, ButtonFramesFollowHoverPressAndDisabledWhenTheAnimationHasThem) {
