@@ -2,8 +2,12 @@
 // dialogs that open inactive, draws dialogs and tips.
 #include "GuiMgr.h"
 
-#include <algorithm>
+#include <strings.h>
 
+#include <algorithm>
+#include <string>
+
+#include "BaseLib.h"
 #include "Graphics.h"
 #include "Input.h"
 #include "Log.h"
@@ -20,10 +24,32 @@ namespace LuGui {
 namespace {
 
 constexpr const char* DEFAULT_LAYOUT_FILE = "FlashGui.ini";
+constexpr std::string_view LAYOUT_EXTENSION = ".ini";
 constexpr DWORD TIP_BACK_COLOUR = 0xC0000000;
 constexpr int TIP_PADDING = 3;
 
 CGuiMgr* g_pCurrent = nullptr;
+
+// "FlashGui_2.ini" and "FlashGui.ini" are both of the base "FlashGui"; other names have no language variants.
+std::string LayoutBaseOf(std::string_view file) {
+    if (file.size() <= LAYOUT_EXTENSION.size() ||
+        ::strncasecmp(file.data() + file.size() - LAYOUT_EXTENSION.size(), LAYOUT_EXTENSION.data(),
+                      LAYOUT_EXTENSION.size()) != 0)
+        return {};
+    std::string_view base = file.substr(0, file.size() - LAYOUT_EXTENSION.size());
+    const std::size_t underscore = base.rfind('_');
+    if (underscore != std::string_view::npos && underscore + 1 < base.size() &&
+        base.find_first_not_of("0123456789", underscore + 1) == std::string_view::npos)
+        base = base.substr(0, underscore);
+    return std::string(base);
+}
+
+// The same rule as the client's first choice of a layout: index 0 (or below) reads the base file.
+std::string LayoutFileOf(const std::string& strBase, int nLanguageIndex) {
+    return nLanguageIndex < 1
+               ? strBase + std::string(LAYOUT_EXTENSION)
+               : strBase + "_" + std::to_string(nLanguageIndex) + std::string(LAYOUT_EXTENSION);
+}
 
 } // namespace
 
@@ -42,13 +68,37 @@ CGuiMgr* CGuiMgr::Current() {
 bool CGuiMgr::Init(HINSTANCE, std::uint64_t hHost, std::uint32_t, const char* szLayoutFile) {
     const std::string file = szLayoutFile && *szLayoutFile ? szLayoutFile : DEFAULT_LAYOUT_FILE;
     BeginInit(hHost, file);
-    if (m_layout.Load(file.c_str())) return true;
-    if (file != DEFAULT_LAYOUT_FILE) {
-        LogMsg("layout %s missing, reading %s", file.c_str(), DEFAULT_LAYOUT_FILE);
-        if (m_layout.Load(DEFAULT_LAYOUT_FILE)) return true;
+    m_strLayoutBase = LayoutBaseOf(file);
+    return LoadLayout(m_layout, file, DEFAULT_LAYOUT_FILE);
+}
+
+bool CGuiMgr::LoadLayout(CLayoutFile& layout, const std::string& strFile, const std::string& strFallback) {
+    if (layout.Load(strFile.c_str())) return true;
+    if (strFile != strFallback) {
+        LogMsg("layout %s missing, reading %s", strFile.c_str(), strFallback.c_str());
+        if (layout.Load(strFallback.c_str())) return true;
     }
-    LogMsg("layout %s missing", DEFAULT_LAYOUT_FILE);
+    LogMsg("layout %s missing", strFallback.c_str());
     return false;
+}
+
+void CGuiMgr::ReloadLayoutForLanguage(int nLanguageIndex) {
+    if (m_strLayoutBase.empty()) return;
+    CLayoutFile fresh;
+    if (!LoadLayout(fresh, LayoutFileOf(m_strLayoutBase, nLanguageIndex), LayoutFileOf(m_strLayoutBase, 0)))
+        return;
+    host::Journal("gui.layout", {{"language", std::to_string(nLanguageIndex)}});
+    // NOTE: moving an unordered_map keeps its records where they are, so the windows' old records stay
+    // readable (for their texts) until every window points at its new one.
+    const CLayoutFile old = std::move(m_layout);
+    m_layout = std::move(fresh);
+    for (CLuDialog* pDialog : m_vecDialogs) {
+        const UINT nTemplate = pDialog->GetTemplateId();
+        CLuToolkit::Relink(*pDialog, m_layout.Find(CLayoutFile::DialogSection(nTemplate)));
+        for (CLuCtrl* pCtrl : CLuToolkit::Controls(*pDialog))
+            CLuToolkit::Relink(*pCtrl,
+                               m_layout.Find(CLayoutFile::ControlSection(nTemplate, pCtrl->GetDlgCtrlID())));
+    }
 }
 
 void CGuiMgr::InitFromText(std::uint64_t hHost, std::string_view text, const char* szName) {
@@ -132,7 +182,10 @@ void CGuiMgr::ResetAfterLanguageChange() {
     const bool bChanged = m_bLanguageSeen && nLanguage != m_nLanguage;
     m_nLanguage = nLanguage;
     m_bLanguageSeen = true;
-    if (bChanged) Reset(0);
+    if (!bChanged) return;
+    if (const SLanguageInfo* pInfo = g_objMultiLang.GetInfo(nLanguage))
+        ReloadLayoutForLanguage(pInfo->nIndex);
+    Reset(0);
 }
 
 void CGuiMgr::DeliverPostedMessages() {

@@ -87,10 +87,19 @@ private:
 
     CLayoutFile m_layout;
     HWND m_hHostWnd = nullptr;
-    /// The language index seen at the last frame, for the reset after a change.
+    /// The layout file's name without ".ini" and language suffix ("FlashGui"); empty when the layout came
+    /// from text, which no language change replaces.
+    std::string m_strLayoutBase;
+    /// The language position seen at the last frame, for the reset after a change.
     int m_nLanguage = 0;
     bool m_bLanguageSeen = false;
     void ResetAfterLanguageChange();
+    /// Reads the layout file of a language (falling back to the base file, logging what is missing) into
+    /// layout; false when neither can be read.
+    static bool LoadLayout(CLayoutFile& layout, const std::string& strFile, const std::string& strFallback);
+    /// Replaces the layout by the language's file and points every window at its new record; the old layout
+    /// stays when the new one cannot be read.
+    void ReloadLayoutForLanguage(int nLanguageIndex);
     PFN_SoundCallBack m_pfnSound = nullptr;
     /// Moves the top-most dialogs after the others, keeping the order within each kind.
     void KeepTopMostOnTop();

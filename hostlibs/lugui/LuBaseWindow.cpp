@@ -235,6 +235,14 @@ void CLuToolkit::Attach(CLuBaseWindow& wnd, ILuGuiMgr* pMgr, CLuDialog* pParent,
     wnd.ApplyLayout();
 }
 
+void CLuToolkit::Relink(CLuBaseWindow& wnd, const CLuLayoutRecord* pLayout) {
+    const char* szOldText = wnd.m_pLayout ? wnd.m_pLayout->GetValue("Text") : nullptr;
+    const char* szNewText = pLayout ? pLayout->GetValue("Text") : nullptr;
+    // A text the system replaced is the system's to translate; only the layout's own text follows the file.
+    if (szOldText && szNewText && wnd.m_strText == szOldText) wnd.SetWindowTextA(szNewText);
+    wnd.m_pLayout = pLayout;
+}
+
 namespace {
 
 int ParseAlign(const char* sz) {

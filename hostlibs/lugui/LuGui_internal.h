@@ -20,6 +20,9 @@ public:
     /// Attaches a window to its manager, its dialog, its id and its layout record, and applies the record.
     static void Attach(CLuBaseWindow& wnd, ILuGuiMgr* pMgr, CLuDialog* pParent, UINT nId,
                        const CLuLayoutRecord* pLayout);
+    /// Points a window at its record of another layout file (a language change) without applying it again:
+    /// the window keeps its place and state; a text it still has from the old record follows the new one.
+    static void Relink(CLuBaseWindow& wnd, const CLuLayoutRecord* pLayout);
     /// The manager that created the window, null before creation.
     /// NOTE: CreateNewGuiMgr makes every manager, so the interface a window holds is always a CGuiMgr.
     static CGuiMgr* Manager(const CLuBaseWindow& wnd) { return static_cast<CGuiMgr*>(wnd.GetGuiMgr()); }

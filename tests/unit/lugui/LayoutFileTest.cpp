@@ -74,6 +74,33 @@ TEST_F(LayoutFileTest, MissingLanguageFileFallsBackToTheDefaultFile) {
     EXPECT_STREQ(m_dlg.m_button.GetWindowTextA(), "Default");
 }
 
+TEST_F(LayoutFileTest, ALanguageChangeReadsThatLanguagesFileAndKeepsTextsTheSystemSet) {
+    host::SetData("languages", "0:Base|1:Missing|2:Deutsch");
+    host::SetData("language.index", "0");
+    const std::string section = "[Dialog2000." + std::to_string(IDC_BUTTON) + "]\n";
+    const std::string label = "[Dialog2000." + std::to_string(IDC_STATIC) + "]\n";
+    m_dir.Write("FlashGui.ini", section + "Text = Go\nTip = Go on\n" + label + "Text = Label\n");
+    m_dir.Write("FlashGui_2.ini", section + "Text = Los\nTip = Weiter\n" + label + "Text = Etikett\n");
+    ASSERT_TRUE(StartManager("FlashGui.ini"));
+    Register(m_dlg);
+    m_mgr->Process();
+    m_dlg.m_static.SetWindowTextA("set by the system");
+
+    host::SetData("language.index", "2");
+    m_mgr->Process();
+    EXPECT_STREQ(m_dlg.m_button.GetWindowTextA(), "Los");
+    m_dlg.m_button.PreInitData_Tip();
+    EXPECT_STREQ(m_dlg.m_button.GetTipText(), "Weiter") << "what a reset reads again comes from the new file";
+    EXPECT_STREQ(m_dlg.m_static.GetWindowTextA(), "set by the system");
+
+    host::SetData("language.index", "1");
+    m_mgr->Process();
+    EXPECT_EQ(testlog::Count("MSG", "layout FlashGui_1.ini missing, reading FlashGui.ini"), 1);
+    EXPECT_STREQ(m_dlg.m_button.GetWindowTextA(), "Go");
+    host::SetData("languages", "");
+    host::SetData("language.index", "");
+}
+
 TEST_F(LayoutFileTest, WindowKeysAreAppliedAndTheRecordStaysReachable) {
     Start("[Dialog2000]\n"
           "Rect = 100 50 300 200\n"
