@@ -130,8 +130,7 @@ DWORD ThreadDownImg(void* pParam) {
 CHttpImgDown::CHttpImgDown() : CHttpImgDown(CWinInetTransport::Instance()) {
 }
 
-CHttpImgDown::CHttpImgDown(IImgDownTransport& transport)
-    : m_transport(transport), m_pShared(std::make_shared<SShared>(transport)) {
+CHttpImgDown::CHttpImgDown(IImgDownTransport& transport) : m_pShared(std::make_shared<SShared>(transport)) {
 }
 
 CHttpImgDown::~CHttpImgDown() {

@@ -45,7 +45,6 @@ private:
     /// Closes the handles of the workers that have ended.
     void ReapEndedWorkers();
 
-    IImgDownTransport& m_transport;
     std::shared_ptr<SShared> m_pShared;
     std::string m_strUrl;
     std::vector<HANDLE> m_vecWorkers;
