@@ -10,6 +10,7 @@
 #include <cstdlib>
 #include <string>
 
+#include "ScreenSteps.h"
 #include "hostlibs/HostBrowser.h"
 #include "hostlibs/HostEnv.h"
 #include "simulator/DialogSet.h"
@@ -77,28 +78,19 @@ void Send(CFlashSimulator& sim, UINT uMsg, WPARAM wParam, LPARAM lParam) {
     sim.WindowProc(nullptr, uMsg, wParam, lParam);
 }
 
-void Click(CFlashSimulator& sim, LuGui::CLuDialog& dialog, UINT nId) {
-    const LuGui::CLuBaseWindow* pCtrl = dialog.GetControl(nId);
-    if (!pCtrl || !dialog.IsWindowVisible() || !pCtrl->IsWindowVisible()) return;
-    const RECT rc = pCtrl->GetWindowRect();
-    const auto x = static_cast<int>((std::int64_t{rc.left} + rc.right) / 2);
-    const auto y = static_cast<int>((std::int64_t{rc.top} + rc.bottom) / 2);
-    host::SetCursor(x, y);
-    host::SetKeyDown(VK_LBUTTON, true);
-    sim.WindowProc(nullptr, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(x, y));
-    host::SetKeyDown(VK_LBUTTON, false);
-    sim.WindowProc(nullptr, WM_LBUTTONUP, 0, MAKELPARAM(x, y));
-}
-
 // Zones with server counts from the bytes (two a zone), loads and states from the arguments.
-void SetServers(CFlashSimulator& sim, std::uint8_t arg, const std::uint8_t* bytes, std::size_t n) {
+void SetServers(CFlashSimulator& sim, std::uint8_t arg, std::string_view bytes) {
     const int nZones = arg % (MAX_ZONES + 1);
     std::string areas = std::to_string(nZones) + "#";
     for (int z = 0; z < nZones; ++z) areas += "Z" + std::to_string(z) + "|";
     sim.SetVariable("VAR_SERVER_AREA", areas.c_str());
     for (int z = 0; z < nZones; ++z) {
         const std::size_t at = static_cast<std::size_t>(z) * 2;
-        const int nServers = at + 1 < n ? (bytes[at] | (bytes[at + 1] << 8)) % (MAX_SERVERS + 1) : z;
+        const int nServers =
+            at + 1 < bytes.size()
+                ? (static_cast<std::uint8_t>(bytes[at]) | (static_cast<std::uint8_t>(bytes[at + 1]) << 8)) %
+                      (MAX_SERVERS + 1)
+                : z;
         std::string names = std::to_string(nServers) + "#";
         std::string states = std::to_string(z + 1) + "#";
         for (int s = 0; s < nServers; ++s) {
@@ -117,30 +109,28 @@ void SetServers(CFlashSimulator& sim, std::uint8_t arg, const std::uint8_t* byte
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     CFlashSimulator* sim = Simulator();
     CDialogSet& dialogs = sim->Dialogs();
-    std::size_t pos = 0;
-    while (pos + 3 <= size) {
-        const std::uint8_t op = data[pos];
-        const std::uint8_t arg = data[pos + 1];
-        const std::size_t length = std::min<std::size_t>(data[pos + 2], size - pos - 3);
-        const std::string bytes(reinterpret_cast<const char*>(data + pos + 3), length);
-        pos += 3 + length;
-        switch (op % 10) {
+    fuzzscreen::ForEachStep(data, size, [&](const fuzzscreen::SStep& step) {
+        const std::uint8_t arg = step.arg;
+        const std::string bytes(step.bytes);
+        const std::size_t length = bytes.size();
+        switch (step.op % 10) {
         case 0:
             host::SetData(HOST_KEYS[arg % HOST_KEYS.size()], bytes);
             break;
         case 1:
-            SetServers(*sim, arg, data + pos - length, length);
+            SetServers(*sim, arg, step.bytes);
             break;
         case 2:
-            Click(*sim, dialogs.m_dlgNewFlashLogin,
-                  arg & 1 ? CDlgNewFlashLogin::IDC_SELECT_LINK : CDlgNewFlashLogin::IDC_CREATE_LINK);
+            fuzzscreen::Click(*sim, dialogs.m_dlgNewFlashLogin,
+                              arg & 1 ? CDlgNewFlashLogin::IDC_SELECT_LINK
+                                      : CDlgNewFlashLogin::IDC_CREATE_LINK);
             break;
         case 3:
-            Click(*sim, dialogs.m_dlgFlashLoginEn, PICKER_IDS[arg % PICKER_IDS.size()]);
+            fuzzscreen::Click(*sim, dialogs.m_dlgFlashLoginEn, PICKER_IDS[arg % PICKER_IDS.size()]);
             break;
         case 4:
-            Click(*sim, dialogs.m_dlgCharacterEn,
-                  arg & 1 ? CDlgFlashCharacterEn::IDC_START : CDlgFlashCharacterEn::IDC_CLOSE);
+            fuzzscreen::Click(*sim, dialogs.m_dlgCharacterEn,
+                              arg & 1 ? CDlgFlashCharacterEn::IDC_START : CDlgFlashCharacterEn::IDC_CLOSE);
             break;
         case 5: {
             const UINT uMsg = (arg | (length << 8)) % MESSAGES;
@@ -163,7 +153,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             else if (arg & 2)
                 sim->ShowSwitchLanguage();
             else
-                Click(*sim, dialogs.m_dlgWebRegister, CDlgWebRegisterEn::IDC_CLOSE);
+                fuzzscreen::Click(*sim, dialogs.m_dlgWebRegister, CDlgWebRegisterEn::IDC_CLOSE);
             break;
         case 8:
             sim->ShowServerRoleList(arg % 4 - 1, static_cast<int>(length) - 1);
@@ -174,7 +164,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             sim->Show();
             break;
         }
-    }
+    });
     host::TakeBrowserCalls();
     return 0;
 }

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "ScreenSteps.h"
 #include "hostlibs/HostEnv.h"
 #include "simulator/DialogSet.h"
 #include "simulator/FlashSimulator.h"
@@ -59,30 +60,18 @@ CFlashSimulator* Simulator() {
     return sim;
 }
 
-void Click(CFlashSimulator& sim, LuGui::CLuDialog& dialog, UINT nId) {
-    const LuGui::CLuBaseWindow* pCtrl = dialog.GetControl(nId);
-    if (!pCtrl || !dialog.IsWindowVisible() || !pCtrl->IsWindowVisible()) return;
-    const RECT rc = pCtrl->GetWindowRect();
-    // NOTE: a main window of a huge stored size may put a dialog far out; the centre is taken in 64 bits.
-    const auto x = static_cast<int>((std::int64_t{rc.left} + rc.right) / 2);
-    const auto y = static_cast<int>((std::int64_t{rc.top} + rc.bottom) / 2);
-    const LPARAM point = MAKELPARAM(x, y);
-    host::SetCursor(x, y);
-    sim.WindowProc(nullptr, WM_LBUTTONDOWN, 0, point);
-    sim.WindowProc(nullptr, WM_LBUTTONUP, 0, point);
-}
-
-void Type(CFlashSimulator& sim, const std::uint8_t* data, std::size_t n) {
-    for (std::size_t i = 0; i + 1 < n; i += 2) {
-        const WPARAM unit = static_cast<WPARAM>(data[i] | (data[i + 1] << 8));
+void Type(CFlashSimulator& sim, std::string_view bytes) {
+    for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
+        const auto unit = static_cast<WPARAM>(static_cast<std::uint8_t>(bytes[i]) |
+                                              (static_cast<std::uint8_t>(bytes[i + 1]) << 8));
         MSG msg{nullptr, WM_CHAR, unit, 0, 0, {}};
         if (!sim.PreTranslateMessage(&msg)) sim.WindowProc(nullptr, WM_CHAR, unit, 0);
     }
 }
 
 /// Bytes for a name: the step's own, or now and then far more than any box takes.
-std::string NameBytes(const std::uint8_t* data, std::size_t n, bool bHuge) {
-    std::string name(reinterpret_cast<const char*>(data), n);
+std::string NameBytes(std::string_view bytes, bool bHuge) {
+    std::string name(bytes);
     if (bHuge) name.append(1 << 20, '\xE5');
     return name;
 }
@@ -92,20 +81,15 @@ std::string NameBytes(const std::uint8_t* data, std::size_t n, bool bHuge) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     CFlashSimulator* sim = Simulator();
     CDialogSet& dialogs = sim->Dialogs();
-    std::size_t pos = 0;
-    while (pos + 3 <= size) {
-        const std::uint8_t op = data[pos];
-        const std::uint8_t arg = data[pos + 1];
-        const std::size_t length = std::min<std::size_t>(data[pos + 2], size - pos - 3);
-        const std::uint8_t* bytes = data + pos + 3;
-        pos += 3 + length;
-        switch (op % 12) {
+    fuzzscreen::ForEachStep(data, size, [&](const fuzzscreen::SStep& step) {
+        const std::uint8_t arg = step.arg;
+        switch (step.op % 12) {
         case 0:
-            Click(*sim, dialogs.m_dlgProIntro, CDlgFlashProIntro::IDC_NAME);
-            Type(*sim, bytes, length);
+            fuzzscreen::Click(*sim, dialogs.m_dlgProIntro, CDlgFlashProIntro::IDC_NAME);
+            Type(*sim, step.bytes);
             break;
         case 1:
-            Click(*sim, dialogs.m_dlgProIntro, CDlgFlashProIntro::IDC_CREATE);
+            fuzzscreen::Click(*sim, dialogs.m_dlgProIntro, CDlgFlashProIntro::IDC_CREATE);
             break;
         case 2:
             sim->SetNameCheck(arg & 1, arg & 2, arg & 4);
@@ -114,31 +98,31 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             sim->RegisterRole();
             break;
         case 4: {
-            const std::string name = NameBytes(bytes, length, arg == 0xFF);
+            const std::string name = NameBytes(step.bytes, arg == 0xFF);
             const auto nLength = static_cast<std::int32_t>(arg & 1 ? name.size() : arg * 1000);
             sim->SetRandomName(name.c_str(), arg & 2 ? -1 : nLength);
             break;
         }
         case 5:
-            Click(*sim, dialogs.m_dlgBaseInfo, CDlgFlashBaseInfo::PROFESSION_IDS[arg % 8]);
+            fuzzscreen::Click(*sim, dialogs.m_dlgBaseInfo, CDlgFlashBaseInfo::PROFESSION_IDS[arg % 8]);
             break;
         case 6:
-            Click(*sim, dialogs.m_dlgProIntro,
-                  arg & 1 ? CDlgFlashProIntro::IDC_FEMALE : CDlgFlashProIntro::IDC_MALE);
+            fuzzscreen::Click(*sim, dialogs.m_dlgProIntro,
+                              arg & 1 ? CDlgFlashProIntro::IDC_FEMALE : CDlgFlashProIntro::IDC_MALE);
             break;
         case 7:
-            Click(*sim, dialogs.m_dlgSceneSelect,
-                  arg & 1 ? CDlgFlashSceneSelect::IDC_HIGH_LEVEL : CDlgFlashSceneSelect::IDC_NORMAL);
+            fuzzscreen::Click(*sim, dialogs.m_dlgSceneSelect,
+                              arg & 1 ? CDlgFlashSceneSelect::IDC_HIGH_LEVEL
+                                      : CDlgFlashSceneSelect::IDC_NORMAL);
             break;
         case 8:
-            sim->SetVariable(arg & 1 ? "ShowCreateWnd" : "SetMainPath",
-                             NameBytes(bytes, length, false).c_str());
+            sim->SetVariable(arg & 1 ? "ShowCreateWnd" : "SetMainPath", NameBytes(step.bytes, false).c_str());
             break;
         case 9:
             sim->WindowProc(nullptr, WM_CHAR, 8, 0);
             break;
         case 10:
-            Click(*sim, dialogs.m_dlgConfirm, CDlgFlashConfirm::IDC_OK);
+            fuzzscreen::Click(*sim, dialogs.m_dlgConfirm, CDlgFlashConfirm::IDC_OK);
             break;
         default:
             sim->SetCreateRoleParam(arg & 1, arg & 2, arg & 4, arg & 8, 0, arg & 16, arg & 32, arg);
@@ -146,6 +130,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             sim->Show();
             break;
         }
-    }
+    });
     return 0;
 }
