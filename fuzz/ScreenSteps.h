@@ -14,6 +14,23 @@
 
 namespace fuzzscreen {
 
+/// Stops the run: an invariant of the screens does not hold.
+inline void Trap(bool bFault) {
+    if (bFault) __builtin_trap();
+}
+
+/// The simulator of an English client on the sample client directory, created once, sending its commands to
+/// onCommand and showing a scene.
+inline CFlashSimulator* CreateEnglishSimulator(FlashCallBack onCommand, ESceneType eScene) {
+    host::SetClientDir(FLASHSIM_RES_DIR);
+    host::SetData("language", "English");
+    CFlashSimulator* sim = FlashSimQuery();
+    sim->Create(0, 0, 0, true);
+    sim->SetCallBack(onCommand);
+    sim->SetSceneType(eScene);
+    return sim;
+}
+
 /// One step of the input: an operation, an argument and up to 255 bytes of its own.
 struct SStep {
     std::uint8_t op;

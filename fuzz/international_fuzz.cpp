@@ -34,10 +34,6 @@ constexpr std::array<UINT, 24> PICKER_IDS = {1008, 1009, 1010, 1011, 1223, 1224,
                                              1227, 1228, 1229, 1230, 1231, 1232, 1293, 1178,
                                              1179, 1017, 1090, 1300, 1301, 1302, 1303, 1134};
 
-void Trap(bool bFault) {
-    if (bFault) __builtin_trap();
-}
-
 // A whole decimal number at least nMin.
 bool IsNumberFrom(const std::string& text, long nMin) {
     if (text.empty() || text.size() > 10) return false;
@@ -49,19 +45,15 @@ bool IsNumberFrom(const std::string& text, long nMin) {
 void OnCommand(const char* szCommand, const char* szArgument) {
     const std::string command(szCommand);
     const std::string argument(szArgument);
-    if (command == "CMD_SELECTSERVER") Trap(!IsNumberFrom(argument, 1));
-    if (command == "CMD_SELECTGROUP") Trap(!IsNumberFrom(argument, 0));
-    if (command == "CLEAR_KEY_INPUT") Trap(argument != "0" && argument != "1" && argument != "117");
+    if (command == "CMD_SELECTSERVER") fuzzscreen::Trap(!IsNumberFrom(argument, 1));
+    if (command == "CMD_SELECTGROUP") fuzzscreen::Trap(!IsNumberFrom(argument, 0));
+    if (command == "CLEAR_KEY_INPUT")
+        fuzzscreen::Trap(argument != "0" && argument != "1" && argument != "117");
 }
 
 CFlashSimulator* Simulator() {
     static CFlashSimulator* sim = [] {
-        host::SetClientDir(FLASHSIM_RES_DIR);
-        host::SetData("language", "English");
-        CFlashSimulator* s = FlashSimQuery();
-        s->Create(0, 0, 0, true);
-        s->SetCallBack(&OnCommand);
-        s->SetSceneType(EST_LOGIN);
+        CFlashSimulator* s = fuzzscreen::CreateEnglishSimulator(&OnCommand, EST_LOGIN);
         s->SetVariable("VAR_MAINPATH", "1");
         // The main login opens inactive; its links answer once it has been shown for a while.
         s->Process();

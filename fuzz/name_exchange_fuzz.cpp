@@ -23,24 +23,20 @@ int g_n412 = 0;
 bool g_bAfter10200 = false;
 std::size_t g_nRegistrationStep = 0; ///< 0: none under way; else the index of the next command expected
 
-void Trap(bool bFault) {
-    if (bFault) __builtin_trap();
-}
-
 void OnCommand(const char* szCommand, const char* szArgument) {
     const std::string command(szCommand);
     const std::string argument(szArgument);
     if (g_nRegistrationStep > 0) {
         // A registration runs whole: nothing comes between its four commands.
-        Trap(command != REGISTRATION[g_nRegistrationStep]);
+        fuzzscreen::Trap(command != REGISTRATION[g_nRegistrationStep]);
         g_nRegistrationStep = (g_nRegistrationStep + 1) % REGISTRATION_STEPS;
         return;
     }
-    if (command == "SetName") Trap(argument.size() >= NAME_REFUSED_BYTES);
-    if (command == "BURYING_POINT" && argument == "411") Trap(++g_n411 > 1);
-    if (command == "BURYING_POINT" && argument == "412") Trap(++g_n412 > 1);
+    if (command == "SetName") fuzzscreen::Trap(argument.size() >= NAME_REFUSED_BYTES);
+    if (command == "BURYING_POINT" && argument == "411") fuzzscreen::Trap(++g_n411 > 1);
+    if (command == "BURYING_POINT" && argument == "412") fuzzscreen::Trap(++g_n412 > 1);
     if (command == REGISTRATION[0]) {
-        Trap(!g_bAfter10200);
+        fuzzscreen::Trap(!g_bAfter10200);
         g_nRegistrationStep = 1;
     }
     g_bAfter10200 = command == "SendNewwerAction" && argument == "10200";
@@ -48,12 +44,7 @@ void OnCommand(const char* szCommand, const char* szArgument) {
 
 CFlashSimulator* Simulator() {
     static CFlashSimulator* sim = [] {
-        host::SetClientDir(FLASHSIM_RES_DIR);
-        host::SetData("language", "English");
-        CFlashSimulator* s = FlashSimQuery();
-        s->Create(0, 0, 0, true);
-        s->SetCallBack(&OnCommand);
-        s->SetSceneType(EST_ROLE_CREATE);
+        CFlashSimulator* s = fuzzscreen::CreateEnglishSimulator(&OnCommand, EST_ROLE_CREATE);
         s->SetVariable("SetMainPath", "1024-768-1");
         return s;
     }();
