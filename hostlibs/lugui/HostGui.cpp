@@ -19,6 +19,7 @@ void FillCommon(const LuGui::CLuBaseWindow& wnd, WindowState& out) {
     out.rect = wnd.GetWindowRect();
     out.text = wnd.GetWindowTextA();
     out.bg = wnd.GetBackGroundAni();
+    out.tip = wnd.GetTipText();
     out.frame = wnd.GetCurFrame();
 }
 
@@ -39,6 +40,7 @@ std::string WindowState::Describe() const {
                 " focus=" + (focus ? "1" : "0");
     if (kind == "List") line += " rows=" + std::to_string(rows) + " cursel=" + std::to_string(curSel);
     if (kind == "Progress") line += " pos=" + std::to_string(pos);
+    if (!tip.empty()) line += " tip=\"" + EscapeTranscriptText(tip) + "\"";
     // NOTE: the screen rectangle comes last so that placements can be checked without touching the fields
     // before it; the width and height are summed in 64 bits since a host may place a window anywhere.
     line += " x=" + std::to_string(rect.left) + " y=" + std::to_string(rect.top) +

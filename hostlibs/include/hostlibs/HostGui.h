@@ -18,7 +18,8 @@ struct WindowState {
     bool enabled = false;
     RECT rect{0, 0, 0, 0}; ///< screen rectangle
     std::string text;
-    std::string bg; ///< background animation title
+    std::string bg;  ///< background animation title
+    std::string tip; ///< the tool tip shown while the cursor rests on the window
     bool checked = false;
     int frame = 0;
     bool focus = false;           ///< edits: has the keyboard focus
@@ -27,7 +28,8 @@ struct WindowState {
     int pos = 0;                  ///< progress bars
 
     /// The fields of the `show` step: `visible=1 enabled=1 text="..." bg="..." checked=0`, then what the
-    /// kind adds (`sel=S,E focus=F`, `rows=N cursel=I`, `pos=P`), and last the screen rectangle
+    /// kind adds (`sel=S,E focus=F`, `rows=N cursel=I`, `pos=P`), `tip="..."` when the window has a tip,
+    /// and last the screen rectangle
     /// `x=X y=Y w=W h=H`.
     std::string Describe() const;
 };
