@@ -16,6 +16,14 @@ constexpr DWORD CARET_BLINK_MS = 500;
 constexpr DWORD SELECTION_COLOUR = 0x803399FF;
 constexpr UINT CHAR_BACKSPACE = 8;
 
+// What a Chinese, Japanese or Korean input method writes: ideographs, kana, hangul, their radicals and
+// punctuation, and the full-width forms.
+bool IsEastAsianInput(UINT cp) {
+    return (cp >= 0x2E80 && cp <= 0xA4CF) || (cp >= 0xAC00 && cp <= 0xD7AF) ||
+           (cp >= 0xF900 && cp <= 0xFAFF) || (cp >= 0xFF00 && cp <= 0xFFEF) ||
+           (cp >= 0x20000 && cp <= 0x3FFFF);
+}
+
 // One star per character.
 std::string Stars(std::string_view text) {
     std::string stars;
@@ -99,6 +107,7 @@ void CLuEdit::OnChar(UINT nChar, UINT, UINT) {
     }
     m_nHighSurrogate = 0;
     if (cp < 0x20 || cp == 0x7F) return;
+    if (!m_bChinese && IsEastAsianInput(cp)) return;
     std::string typed;
     txt::Utf8::Append(typed, cp);
     ReplaceSelection(typed);

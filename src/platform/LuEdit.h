@@ -57,7 +57,8 @@ public:
     void SetReadOnly(bool bReadOnly) { m_bReadOnly = bReadOnly; }
     /// The client's edit set-up: multi-line flag, a reserved value, text colour, read-only flag.
     void PreSetParam(bool bMultiLine, int nReserved, DWORD dwTextColor, bool bReadOnly);
-    /// Input-method (Chinese) input; kept for the client's input method, typed characters arrive either way.
+    /// Input-method (Chinese) input. Switched off, the edit refuses what such an input method writes (CJK
+    /// ideographs, kana, hangul, full-width forms); other characters, accented letters among them, still type.
     void EnableChinese(bool bEnable) { m_bChinese = bEnable; }
     bool IsChineseEnabled() const { return m_bChinese; }
     /// The client's font format (kept).

@@ -100,6 +100,17 @@ TEST_F(EditTest, TypedCharactersAreStoredAsUtf8) {
         << "lone halves and control codes are ignored";
 }
 
+TEST_F(EditTest, WithChineseInputOffOnlyWhatAnInputMethodWritesIsRefused) {
+    FocusEdit();
+    m_dlg.m_edit.EnableChinese(false);
+    for (UINT ch : {0x4E2DU, 0x3042U, 0xAC00U, 0xFF21U, 0xD840U, 0xDC00U}) Type(ch); // 中 あ 가 Ａ 𠀀
+    Type(0xE9);
+    EXPECT_EQ(Text(), E_ACUTE);
+    m_dlg.m_edit.EnableChinese(true);
+    Type(0x4E2D);
+    EXPECT_EQ(Text(), std::string(E_ACUTE) + "\xE4\xB8\xAD");
+}
+
 TEST_F(EditTest, BackspaceRemovesAWholeCharacter) {
     FocusEdit();
     for (UINT ch : {UINT{'a'}, UINT{0xE9}, UINT{0xD83D}, UINT{0xDE00}}) Type(ch);
