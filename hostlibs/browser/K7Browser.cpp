@@ -1,5 +1,7 @@
 // Our browser library: pages of the engine the host picks, every call the system makes recorded for the host.
 #include <algorithm>
+#include <atomic>
+#include <cstdint>
 #include <map>
 #include <mutex>
 #include <string>
@@ -37,10 +39,24 @@ struct SLibrary {
     int nLastNumber = 0;
 };
 
+// Bumped by every destroy (under the library's lock): a page known live at some count is live while the
+// count stays. Outside the library object, so that reading it needs no initialisation check.
+constinit std::atomic<std::uint64_t> g_nDestroyCount{0};
+
 SLibrary& Library() {
     static SLibrary library;
     return library;
 }
+
+// The page this thread began a frame of last, with the destroy count it was live at: while no page is
+// destroyed, that page's frame calls (one begin, the rectangles, the end, every frame) need no look-up under
+// the lock.
+struct SFramePage {
+    K7BROWSER hPage = nullptr;
+    std::uint64_t nDestroyCount = 0;
+};
+// NOTE: the library is always loaded with the program, so the fixed-offset model (no look-up call) holds.
+[[gnu::tls_model("initial-exec")]] thread_local SFramePage t_framePage;
 
 int PageNumber(K7BROWSER hPage) {
     return hPage ? hPage->nNumber : 0;
@@ -66,6 +82,17 @@ bool IsLive(K7BROWSER hPage) {
     SLibrary& lib = Library();
     std::lock_guard lock(lib.mutex);
     return std::find(lib.pages.begin(), lib.pages.end(), hPage) != lib.pages.end();
+}
+
+// Whether the handle is the page of this thread's last begun frame and no page was destroyed since: then it
+// is live without a look-up.
+bool IsStillFramePage(K7BROWSER hPage) {
+    return hPage && hPage == t_framePage.hPage &&
+           t_framePage.nDestroyCount == g_nDestroyCount.load(std::memory_order_acquire);
+}
+
+bool IsLiveFramePage(K7BROWSER hPage) {
+    return IsStillFramePage(hPage) || IsLive(hPage);
 }
 
 host::BrowserEngineFactory EngineFactory(const std::string& name) {
@@ -118,6 +145,7 @@ void K7Browser_Browser_Destroy(K7BROWSER hPage) {
         std::lock_guard lock(lib.mutex);
         std::erase(lib.pages, hPage);
         if (lib.pNewest == hPage) lib.pNewest = nullptr;
+        g_nDestroyCount.fetch_add(1, std::memory_order_acq_rel);
     }
     delete hPage;
 }
@@ -155,7 +183,13 @@ void K7Browser_IME_Event(K7BROWSER hPage, UINT uMsg, WPARAM wParam, LPARAM lPara
 bool K7Browser_OSR_Buffer_Get_Begin(K7BROWSER hPage, void* pPixels, int* pValue, int* pDirtyCount) {
     if (pValue) *pValue = 0;
     if (pDirtyCount) *pDirtyCount = 0;
-    if (!IsLive(hPage) || !pPixels || hPage->bInFrame) return false;
+    if (!pPixels) return false;
+    if (!IsStillFramePage(hPage)) {
+        const std::uint64_t nDestroyCount = g_nDestroyCount.load(std::memory_order_acquire);
+        if (!IsLive(hPage)) return false;
+        t_framePage = SFramePage{hPage, nDestroyCount};
+    }
+    if (hPage->bInFrame) return false;
     hPage->rects.clear();
     if (!hPage->view->BeginFrame(pPixels, hPage->rects)) return false;
     hPage->bInFrame = true;
@@ -167,7 +201,7 @@ bool K7Browser_OSR_Buffer_Get_Begin(K7BROWSER hPage, void* pPixels, int* pValue,
 
 void K7Browser_OSR_DirtyRect_Get(K7BROWSER hPage, int nIndex, int* pX, int* pY, int* pWidth, int* pHeight) {
     RECT rc{0, 0, 0, 0};
-    if (IsLive(hPage) && hPage->bInFrame && nIndex >= 0 &&
+    if (IsLiveFramePage(hPage) && hPage->bInFrame && nIndex >= 0 &&
         static_cast<std::size_t>(nIndex) < hPage->rects.size())
         rc = hPage->rects[static_cast<std::size_t>(nIndex)];
     if (pX) *pX = rc.left;
@@ -177,7 +211,7 @@ void K7Browser_OSR_DirtyRect_Get(K7BROWSER hPage, int nIndex, int* pX, int* pY, 
 }
 
 void K7Browser_OSR_Buffer_Get_End(K7BROWSER hPage) {
-    if (!IsLive(hPage) || !hPage->bInFrame) return;
+    if (!IsLiveFramePage(hPage) || !hPage->bInFrame) return;
     hPage->bInFrame = false;
     hPage->view->EndFrame(*hPage->pListener, hPage);
 }

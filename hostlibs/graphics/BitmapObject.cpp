@@ -1,5 +1,5 @@
 // Bitmap objects: drawn as one "bitmap" operation, filled from 32-bit BGRA buffers (the browser's pixel
-// format).
+// format). An empty bitmap keeps BGRA, so that filling it is a copy; the raster canvas reads either order.
 #include "BitmapObject.h"
 
 #include <algorithm>
@@ -40,7 +40,7 @@ int OpacityOf(DWORD colour) {
 } // namespace
 
 BitmapObject::BitmapObject(std::string name, Image image)
-    : m_name(std::move(name)), m_image(std::move(image)) {
+    : m_op(OpBuilder("bitmap", {}).File(std::move(name)).Take()), m_image(std::move(image)) {
 }
 
 void BitmapObject::Show(int x, int y, DWORD dwColor, int nWidth, int nHeight) {
@@ -48,8 +48,12 @@ void BitmapObject::Show(int x, int y, DWORD dwColor, int nWidth, int nHeight) {
     const Rect dst{x, y, nWidth > 0 ? nWidth : m_image.width, nHeight > 0 ? nHeight : m_image.height};
     const int alpha = OpacityOf(dwColor);
     ICanvas& canvas = GraphicsState::Instance().Canvas();
-    const CompoundScope scope(canvas,
-                              OpBuilder("bitmap", dst).Colour(static_cast<DWORD>(alpha)).File(m_name));
+    m_op.x = dst.x;
+    m_op.y = dst.y;
+    m_op.w = dst.w;
+    m_op.h = dst.h;
+    m_op.colour = static_cast<DWORD>(alpha);
+    const CompoundScope scope(canvas, m_op);
     canvas.DrawImage(m_image, {0, 0, m_image.width, m_image.height}, dst, alpha);
 }
 
@@ -61,12 +65,18 @@ void BitmapObject::UpdatePixels(const void* pBGRA, int nSrcWidth, int nSrcHeight
     if (region.Right() <= region.x || region.Bottom() <= region.y) return;
     const auto* source = static_cast<const std::uint8_t*>(pBGRA);
     const std::size_t rowPixels = static_cast<std::size_t>(region.Right() - region.x);
-    for (int y = region.y; y < region.Bottom(); ++y) {
-        const std::uint8_t* from =
-            source + (static_cast<std::size_t>(y) * nSrcWidth + region.x) * BYTES_PER_PIXEL;
-        std::uint8_t* to =
-            &m_image.rgba[(static_cast<std::size_t>(y) * m_image.width + region.x) * BYTES_PER_PIXEL];
-        SwapRedBlue(from, to, rowPixels);
+    const std::size_t sourcePitch = static_cast<std::size_t>(nSrcWidth) * BYTES_PER_PIXEL;
+    const std::size_t targetPitch = static_cast<std::size_t>(m_image.width) * BYTES_PER_PIXEL;
+    const std::uint8_t* from = source + static_cast<std::size_t>(region.y) * sourcePitch +
+                               static_cast<std::size_t>(region.x) * BYTES_PER_PIXEL;
+    std::uint8_t* to = m_image.rgba.data() + static_cast<std::size_t>(region.y) * targetPitch +
+                       static_cast<std::size_t>(region.x) * BYTES_PER_PIXEL;
+    const bool bSameOrder = m_image.order == PixelOrder::Bgra;
+    for (int y = region.y; y < region.Bottom(); ++y, from += sourcePitch, to += targetPitch) {
+        if (bSameOrder)
+            std::memcpy(to, from, rowPixels * BYTES_PER_PIXEL);
+        else
+            SwapRedBlue(from, to, rowPixels);
     }
 }
 
@@ -84,5 +94,6 @@ CMyBitmap* MyBitmapCreateEmpty(int nWidth, int nHeight) {
     image.width = std::clamp(nWidth, 1, gfx::BitmapObject::MAX_SIDE);
     image.height = std::clamp(nHeight, 1, gfx::BitmapObject::MAX_SIDE);
     image.rgba.assign(static_cast<std::size_t>(image.width) * static_cast<std::size_t>(image.height) * 4, 0);
+    image.order = gfx::PixelOrder::Bgra;
     return new gfx::BitmapObject({}, std::move(image));
 }

@@ -28,7 +28,9 @@ public:
 private:
     ~BitmapObject() override = default;
 
-    std::string m_name;
+    // The recorded operation, kept with its kind and file: a bitmap is shown every frame, and only its place
+    // and opacity change.
+    host::DrawOp m_op;
     Image m_image;
 };
 

@@ -51,11 +51,16 @@ inline Rect Rect::Intersect(const Rect& o) const {
     return {left, top, right - left, bottom - top};
 }
 
-/// A decoded picture: RGBA bytes, row by row, not premultiplied.
+/// The byte order of a picture's pixels.
+enum class PixelOrder : std::uint8_t { Rgba, Bgra };
+
+/// A picture: four bytes a pixel, row by row, not premultiplied. Decoded files are RGBA; a bitmap that is
+/// filled from a browser page keeps the page's BGRA, so that its updates are plain copies.
 struct Image {
     int width = 0;
     int height = 0;
-    std::vector<std::uint8_t> rgba;
+    std::vector<std::uint8_t> rgba; ///< the bytes, in `order` (RGBA unless said otherwise)
+    PixelOrder order = PixelOrder::Rgba;
 
     bool Empty() const { return width <= 0 || height <= 0; }
 };

@@ -164,6 +164,8 @@ void RasterCanvas::DrawImage(const Image& image, const Rect& src, const Rect& ds
     if (source.Empty() || dst.Empty() || alpha <= 0) return;
     const unsigned extra = static_cast<unsigned>(std::min(alpha, 255));
     const Rect area = dst.Intersect(m_clip);
+    const std::size_t red = image.order == PixelOrder::Bgra ? 2 : 0;
+    const std::size_t blue = 2 - red;
     for (int y = area.y; y < area.Bottom(); ++y) {
         // Nearest source pixel of each target pixel's centre.
         const long long sy =
@@ -172,7 +174,7 @@ void RasterCanvas::DrawImage(const Image& image, const Rect& src, const Rect& ds
             const long long sx =
                 source.x + (static_cast<long long>(x - dst.x) * 2 + 1) * source.w / (2LL * dst.w);
             const std::uint8_t* p = &image.rgba[(static_cast<std::size_t>(sy) * image.width + sx) * 4];
-            const DWORD colour = (DWORD{p[0]} << 16) | (DWORD{p[1]} << 8) | DWORD{p[2]};
+            const DWORD colour = (DWORD{p[red]} << 16) | (DWORD{p[1]} << 8) | DWORD{p[blue]};
             BlendPixel(x, y, colour, Scale(p[3], extra));
         }
     }

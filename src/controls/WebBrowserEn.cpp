@@ -74,6 +74,7 @@ void CWebBrowserEn::Init(unsigned short usLayoutId, const char* szUrl, int nOffs
     m_nOffsetX = nOffsetX;
     m_nOffsetY = nOffsetY;
     m_usLayoutId = usLayoutId;
+    m_optPlacedRect.reset();
     if (szUrl && *szUrl) {
         m_strUrl = szUrl;
         m_bHasUrl = true;
@@ -111,6 +112,7 @@ bool CWebBrowserEn::Create() {
     HWND hWnd = m_pParent->GetSafeHwnd();
     if (!hWnd || m_strUrl.empty()) return false;
     const RECT rc = GetPageRect();
+    m_optPlacedRect = rc;
     const long long width = static_cast<long long>(rc.right) - rc.left;
     const long long height = static_cast<long long>(rc.bottom) - rc.top;
     m_hBrowser =
@@ -127,6 +129,7 @@ bool CWebBrowserEn::Create() {
 }
 
 void CWebBrowserEn::Reload() {
+    m_optPlacedRect.reset();
     if (!m_hBrowser) {
         Create();
         return;
@@ -144,6 +147,7 @@ void CWebBrowserEn::Close() {
         m_hBrowser = nullptr;
     }
     ReleaseBitmap();
+    m_optPlacedRect.reset();
     m_pPixels.clear();
     m_pPixels.shrink_to_fit();
     m_nBufferWidth = m_nBufferHeight = 0;
@@ -158,7 +162,10 @@ void CWebBrowserEn::ReleaseBitmap() {
 // ---- drawing ---------------------------------------------------------------------------------------
 
 void CWebBrowserEn::Draw() {
-    const RECT rc = GetPageRect();
+    // NOTE: the page keeps the place it was created (or last reloaded) at, as its dialog keeps the frame
+    // around it; reading the layout record every frame cost more than copying a small rectangle.
+    if (!m_optPlacedRect) m_optPlacedRect = GetPageRect();
+    const RECT rc = *m_optPlacedRect;
     if (!m_pBitmap) m_pBitmap = MyBitmapCreateEmpty(BITMAP_WIDTH, BITMAP_HEIGHT);
     int nValue = 0;
     int nDirty = 0;

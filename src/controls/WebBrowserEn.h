@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -38,7 +39,8 @@ public:
     /// Keyboard forwarding; always 1.
     BOOL OnPreTranslateMessage(const MSG* pMsg);
 
-    /// The page's screen rectangle (left, top, right, bottom).
+    /// The page's screen rectangle (left, top, right, bottom) as the layout record and screen give it now;
+    /// Draw keeps the one of the page's creation, reload or first draw.
     RECT GetPageRect() const;
     bool IsOpen() const { return m_hBrowser != nullptr; }
     const std::string& GetUrl() const { return m_strUrl; }
@@ -63,6 +65,8 @@ private:
     CMyBitmap* m_pBitmap = nullptr;
     K7BROWSER m_hBrowser = nullptr;
     LuGui::CLuBaseWindow* m_pParent = nullptr;
+    // Where Draw puts the page; empty until the next draw after Init, Create, Reload or Close.
+    std::optional<RECT> m_optPlacedRect;
     std::vector<std::uint8_t> m_pPixels;
     // The size the pixel buffer was allocated for: the page's creation size.
     int m_nBufferWidth = 0;

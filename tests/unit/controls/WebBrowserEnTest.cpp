@@ -211,6 +211,34 @@ TEST_F(WebBrowserEnTest, NoPageWithoutParentAddressOrSaneSize) {
     }
 }
 
+// The library skips its page look-up for the frame calls of the page a thread began last, as long as no page
+// was destroyed since; a page destroyed inside its frame must still be refused by the frame's later calls.
+TEST_F(WebBrowserEnTest, PageDestroyedInsideItsFrameIsRefusedByTheFramesLaterCalls) {
+    const HWND hWnd = Parent()->GetSafeHwnd();
+    std::vector<std::uint8_t> pixels(100 * 80 * 4);
+    K7BROWSER hOther = K7Browser_Browser_Create(hWnd, PAGE_URL, 0, 0, 100, 80, &Browser(), 14, 1);
+    K7BROWSER hPage = K7Browser_Browser_Create(hWnd, PAGE_URL, 0, 0, 100, 80, &Browser(), 14, 1);
+    ASSERT_TRUE(hOther && hPage);
+    int nValue = 0, nDirty = 0;
+    ASSERT_TRUE(K7Browser_OSR_Buffer_Get_Begin(hPage, pixels.data(), &nValue, &nDirty)); // the first paint
+    ASSERT_EQ(nDirty, 1);
+    int x = -1, y = -1, w = -1, h = -1;
+    K7Browser_OSR_DirtyRect_Get(hPage, 0, &x, &y, &w, &h);
+    EXPECT_EQ(std::make_tuple(x, y, w, h), std::make_tuple(0, 0, 100, 80));
+    K7Browser_Browser_Destroy(hPage);
+    K7Browser_OSR_DirtyRect_Get(hPage, 0, &x, &y, &w, &h);
+    EXPECT_EQ(std::make_tuple(x, y, w, h), std::make_tuple(0, 0, 0, 0));
+    K7Browser_OSR_Buffer_Get_End(hPage);
+    EXPECT_FALSE(K7Browser_OSR_Buffer_Get_Begin(hPage, pixels.data(), &nValue, &nDirty));
+    // The other page's frames go on.
+    ASSERT_TRUE(K7Browser_OSR_Buffer_Get_Begin(hOther, pixels.data(), &nValue, &nDirty));
+    K7Browser_OSR_DirtyRect_Get(hOther, 0, &x, &y, &w, &h);
+    EXPECT_EQ(std::make_tuple(x, y, w, h), std::make_tuple(0, 0, 100, 80));
+    K7Browser_OSR_Buffer_Get_End(hOther);
+    EXPECT_FALSE(K7Browser_OSR_Buffer_Get_Begin(hOther, pixels.data(), &nValue, &nDirty)); // idle now
+    K7Browser_Browser_Destroy(hOther);
+}
+
 TEST_F(WebBrowserEnTest, ReloadGoesBackWithoutClosingAndLoadEndShowsThePageOnlyWhenComplete) {
     ASSERT_TRUE(OpenPage());
     Draw();

@@ -1,5 +1,6 @@
 // Pixels of the raster canvas: blocks, blending, clip, lines, text, pictures, scaling and PNG output.
 #include <filesystem>
+#include <vector>
 
 #include "Graphics.h"
 #include "GraphicsFixture.h"
@@ -66,6 +67,50 @@ TEST_F(RasterCanvasTest, BitmapFromBmpDrawsAtNaturalAndStretchedSize) {
     EXPECT_EQ(Pixel(23, 23), WHITE);
     EXPECT_EQ(Pixel(24, 20), BACKGROUND);
     bitmap->Release();
+}
+
+// An 8 x 6 BGRA buffer of distinct colours, opaque, half and fully transparent pixels; seed varies it.
+std::vector<std::uint8_t> BgraPattern(int seed) {
+    std::vector<std::uint8_t> bytes;
+    for (int y = 0; y < 6; ++y)
+        for (int x = 0; x < 8; ++x) {
+            const int i = y * 8 + x + seed;
+            bytes.push_back(static_cast<std::uint8_t>(30 * x + seed));                           // blue
+            bytes.push_back(static_cast<std::uint8_t>(40 * y));                                  // green
+            bytes.push_back(static_cast<std::uint8_t>(250 - 20 * x - y));                        // red
+            bytes.push_back(static_cast<std::uint8_t>(i % 3 == 0 ? 255 : i % 3 == 1 ? 128 : 0)); // alpha
+        }
+    return bytes;
+}
+
+TEST_F(RasterCanvasTest, BitmapFilledFromBgraDrawsTheSameWhetherItKeepsOrConvertsTheBytes) {
+    WriteBmp("data/quad.bmp", 8, 6, Quadrants);
+    CMyBitmap* converted = MyBitmapCreate("data/quad.bmp"); // a decoded picture is RGBA
+    CMyBitmap* kept = MyBitmapCreateEmpty(8, 6);            // an empty one takes the bytes as given
+    const auto first = BgraPattern(0);
+    const auto second = BgraPattern(7);
+    for (CMyBitmap* bitmap : {converted, kept}) {
+        bitmap->UpdatePixels(first.data(), 8, 6, RECT{0, 0, 8, 6});
+        bitmap->UpdatePixels(second.data(), 8, 6, RECT{2, 1, 6, 4});
+    }
+    converted->Show(0, 0);
+    kept->Show(16, 0);
+    converted->Show(0, 16, 0xC0000000, 16, 12);
+    kept->Show(32, 16, 0xC0000000, 16, 12);
+    for (int y = 0; y < 6; ++y)
+        for (int x = 0; x < 8; ++x) {
+            SCOPED_TRACE(testing::Message() << x << "," << y);
+            const bool fromSecond = x >= 2 && x < 6 && y >= 1 && y < 4;
+            const std::uint8_t* p = &(fromSecond ? second : first)[static_cast<std::size_t>(y * 8 + x) * 4];
+            if (p[3] == 255) { // an opaque pixel shows its own colour
+                EXPECT_EQ(Pixel(x, y), 0xFF000000 | (DWORD{p[2]} << 16) | (DWORD{p[1]} << 8) | DWORD{p[0]});
+            }
+            EXPECT_EQ(Pixel(16 + x, y), Pixel(x, y));
+        }
+    for (int y = 16; y < 28; ++y)
+        for (int x = 0; x < 16; ++x) EXPECT_EQ(Pixel(32 + x, y), Pixel(x, y)) << x << "," << y;
+    converted->Release();
+    kept->Release();
 }
 
 TEST_F(RasterCanvasTest, FrameWrittenAsPngReadsBackPixelForPixel) {
