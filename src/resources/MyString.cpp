@@ -35,21 +35,30 @@ bool IsDigit(char c) {
 // The format of one replacement field (after ':') with every width and precision cut to the longest text and
 // dynamic ones ("{:{}}") dropped, so that a format from a file cannot ask for gigabytes of padding.
 void AppendBoundedSpec(std::string_view spec, std::string& out) {
+    // NOTE: the dynamic fields go first: digits on both sides of one join into a single number once it is
+    // gone.
+    std::string stripped;
     std::size_t i = 0;
     while (i < spec.size()) {
         if (spec[i] == '{') {
             const std::size_t close = spec.find('}', i);
             i = close == std::string_view::npos ? spec.size() : close + 1;
-        } else if (IsDigit(spec[i])) {
-            std::size_t end = i;
-            while (end < spec.size() && IsDigit(spec[end])) ++end;
-            const std::string_view digits = spec.substr(i, end - i);
-            const bool bTooLong = digits.size() > 4 || std::stoul(std::string(digits)) > CMyString::MAX_TEXT;
-            out += bTooLong ? std::to_string(CMyString::MAX_TEXT) : std::string(digits);
-            i = end;
         } else {
-            out += spec[i++];
+            stripped += spec[i++];
         }
+    }
+    i = 0;
+    while (i < stripped.size()) {
+        if (!IsDigit(stripped[i])) {
+            out += stripped[i++];
+            continue;
+        }
+        std::size_t end = i;
+        while (end < stripped.size() && IsDigit(stripped[end])) ++end;
+        const std::string_view digits = std::string_view(stripped).substr(i, end - i);
+        const bool bTooLong = digits.size() > 4 || std::stoul(std::string(digits)) > CMyString::MAX_TEXT;
+        out += bTooLong ? std::to_string(CMyString::MAX_TEXT) : std::string(digits);
+        i = end;
     }
 }
 

@@ -41,6 +41,10 @@ TEST(MyString, WidthsAndPrecisionsFromFilesAreBounded) {
         const std::string text = CMyString::Format(format, "v");
         EXPECT_LE(text.size(), CMyString::MAX_TEXT) << format;
     }
+    // Digits around a dropped dynamic field join into one width, which is bounded too (found by fuzzing: the
+    // padding of 54854095 was cut from the text but still written).
+    EXPECT_EQ(CMyString::Format("{:>5{}485{}482639826398}", "v"),
+              std::string(CMyString::MAX_TEXT - 1, ' ') + "v");
     EXPECT_EQ(CMyString::Format("{:>6}|{:0>3}", "ab", 7), "    ab|007") << "ordinary widths stay";
     EXPECT_EQ(CMyString::Format("{:.2f}", 3.14159), "3.14");
     EXPECT_EQ(CMyString::Format("{{{}}}", 1), "{1}");
