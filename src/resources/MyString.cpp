@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cctype>
 #include <cstring>
+#include <iterator>
 #include <string>
 
 namespace {
@@ -62,6 +63,28 @@ void AppendBoundedSpec(std::string_view spec, std::string& out) {
     }
 }
 
+// Bytes of the code point that starts at c, as fmt counts them for a fill (a stray byte counts 1).
+std::size_t CodePointLength(char c) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (byte >= 0xF0 && byte < 0xF8) return 4;
+    if (byte >= 0xE0 && byte < 0xF0) return 3;
+    if (byte >= 0xC0 && byte < 0xE0) return 2;
+    return 1;
+}
+
+bool IsAlign(char c) {
+    return c == '<' || c == '>' || c == '^';
+}
+
+// Length of the fill and align that open a spec at format[i]: fmt takes any code point but '{' as the fill
+// before an align sign, '}' included, so they are copied as they are and never read as the field's end.
+std::size_t FillAndAlignLength(std::string_view format, std::size_t i) {
+    if (i >= format.size()) return 0;
+    const std::size_t nFill = CodePointLength(format[i]);
+    if (format[i] != '{' && i + nFill < format.size() && IsAlign(format[i + nFill])) return nFill + 1;
+    return IsAlign(format[i]) ? 1 : 0;
+}
+
 // The format with bounded widths and precisions; everything else byte for byte.
 std::string BoundFieldSpecs(std::string_view format) {
     std::string out;
@@ -75,27 +98,63 @@ std::string BoundFieldSpecs(std::string_view format) {
             i += n;
             continue;
         }
-        // A field: its name up to ':' as it is, its spec bounded, up to the '}' that closes it.
+        // A field: its name up to ':' as it is, its fill and align as they are, the rest of its spec bounded,
+        // up to the '}' that closes it.
         std::size_t end = i + 1;
+        while (end < format.size() && format[end] != ':' && format[end] != '{' && format[end] != '}') ++end;
+        out.append(format.substr(i, end - i));
+        if (end < format.size() && format[end] == ':') {
+            ++end;
+            const std::size_t nPrefix = FillAndAlignLength(format, end);
+            out += ':';
+            out.append(format.substr(end, nPrefix));
+            end += nPrefix;
+        }
+        const std::size_t specStart = end;
         int depth = 1;
         while (end < format.size() && depth > 0) {
             if (format[end] == '{') ++depth;
             if (format[end] == '}') --depth;
             ++end;
         }
-        const std::string_view field = format.substr(i + 1, depth == 0 ? end - i - 2 : end - i - 1);
-        const std::size_t colon = field.find(':');
-        out += '{';
-        out.append(field.substr(0, colon));
-        if (colon != std::string_view::npos) {
-            out += ':';
-            AppendBoundedSpec(field.substr(colon + 1), out);
-        }
+        AppendBoundedSpec(format.substr(specStart, (depth == 0 ? end - 1 : end) - specStart), out);
         if (depth == 0) out += '}';
         i = end;
     }
     return out;
 }
+
+// Thrown by the writer when the text is full, so that fmt stops there.
+struct STextFull {};
+
+// fmt's output: keeps the first MAX_TEXT bytes and stops fmt at the next one; whatever fmt still hands over
+// while it unwinds is dropped (a second throw there would end the process).
+class CBoundedWriter {
+public:
+    using iterator_category = std::output_iterator_tag;
+    using value_type = void;
+    using difference_type = std::ptrdiff_t;
+    using pointer = void;
+    using reference = void;
+
+    CBoundedWriter(std::string& text, bool& bFull) : m_pText(&text), m_pFull(&bFull) {}
+    CBoundedWriter& operator*() { return *this; }
+    CBoundedWriter& operator++() { return *this; }
+    CBoundedWriter operator++(int) { return *this; }
+    CBoundedWriter& operator=(char c) {
+        if (m_pText->size() < CMyString::MAX_TEXT) {
+            m_pText->push_back(c);
+        } else if (!*m_pFull) {
+            *m_pFull = true;
+            throw STextFull{};
+        }
+        return *this;
+    }
+
+private:
+    std::string* m_pText;
+    bool* m_pFull;
+};
 
 } // namespace
 
@@ -128,11 +187,14 @@ std::string CMyString::TransfromOldFmt2NewFmt(std::string_view format) {
 std::string CMyString::FormatArgs(std::string_view format, fmt::format_args args) {
     const std::string converted =
         BoundFieldSpecs(IsOldFormatStr(format) ? TransfromOldFmt2NewFmt(format) : format);
-    std::string text(MAX_TEXT, '\0');
+    std::string text;
+    text.reserve(MAX_TEXT);
+    bool bFull = false;
     try {
-        // NOTE: written in place up to the limit; a longer result is counted, never built.
-        const auto result = fmt::vformat_to_n(text.data(), text.size(), converted, args);
-        text.resize(std::min(result.size, text.size()));
+        // NOTE: fmt stops at the limit: a padding that the bounds above miss is never written out to its end.
+        fmt::vformat_to(CBoundedWriter(text, bFull), converted, args);
+    } catch (const STextFull&) {
+        // the text holds its first MAX_TEXT bytes
     } catch (const fmt::format_error&) {
         text.assign(format.substr(0, MAX_TEXT));
     }

@@ -45,6 +45,9 @@ TEST(MyString, WidthsAndPrecisionsFromFilesAreBounded) {
     // padding of 54854095 was cut from the text but still written).
     EXPECT_EQ(CMyString::Format("{:>5{}485{}482639826398}", "v"),
               std::string(CMyString::MAX_TEXT - 1, ' ') + "v");
+    // fmt takes '}' as a fill before an align sign; that '}' does not end the field, and its width is
+    // bounded.
+    EXPECT_EQ(CMyString::Format("{:}>666666665}", 75), std::string(CMyString::MAX_TEXT - 2, '}') + "75");
     EXPECT_EQ(CMyString::Format("{:>6}|{:0>3}", "ab", 7), "    ab|007") << "ordinary widths stay";
     EXPECT_EQ(CMyString::Format("{:.2f}", 3.14159), "3.14");
     EXPECT_EQ(CMyString::Format("{{{}}}", 1), "{1}");
