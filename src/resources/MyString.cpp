@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <cctype>
 #include <cstring>
-#include <iterator>
 #include <string>
 
 namespace {
@@ -124,36 +123,24 @@ std::string BoundFieldSpecs(std::string_view format) {
     return out;
 }
 
-// Thrown by the writer when the text is full, so that fmt stops there.
+// Thrown when the text is full, so that fmt stops there.
 struct STextFull {};
 
-// fmt's output: keeps the first MAX_TEXT bytes and stops fmt at the next one; whatever fmt still hands over
-// while it unwinds is dropped (a second throw there would end the process).
-class CBoundedWriter {
+// fmt's output: one byte past the longest text in place; asked to grow when full, it ends the formatting. A
+// request for more room than is left is answered by leaving it as it is: fmt then copies what fits and asks
+// again, so a long piece still fills the text to its end.
+// NOTE: fmt offers no public buffer of a fixed size that stops it; this is its own base class (fmt 9).
+class CBoundedBuffer final : public fmt::detail::buffer<char> {
 public:
-    using iterator_category = std::output_iterator_tag;
-    using value_type = void;
-    using difference_type = std::ptrdiff_t;
-    using pointer = void;
-    using reference = void;
+    CBoundedBuffer() : fmt::detail::buffer<char>(m_store, 0, sizeof m_store) {}
 
-    CBoundedWriter(std::string& text, bool& bFull) : m_pText(&text), m_pFull(&bFull) {}
-    CBoundedWriter& operator*() { return *this; }
-    CBoundedWriter& operator++() { return *this; }
-    CBoundedWriter operator++(int) { return *this; }
-    CBoundedWriter& operator=(char c) {
-        if (m_pText->size() < CMyString::MAX_TEXT) {
-            m_pText->push_back(c);
-        } else if (!*m_pFull) {
-            *m_pFull = true;
-            throw STextFull{};
-        }
-        return *this;
+protected:
+    void grow(std::size_t /*capacity*/) override {
+        if (size() == capacity()) throw STextFull{};
     }
 
 private:
-    std::string* m_pText;
-    bool* m_pFull;
+    char m_store[CMyString::MAX_TEXT + 1];
 };
 
 } // namespace
@@ -187,16 +174,14 @@ std::string CMyString::TransfromOldFmt2NewFmt(std::string_view format) {
 std::string CMyString::FormatArgs(std::string_view format, fmt::format_args args) {
     const std::string converted =
         BoundFieldSpecs(IsOldFormatStr(format) ? TransfromOldFmt2NewFmt(format) : format);
-    std::string text;
-    text.reserve(MAX_TEXT);
-    bool bFull = false;
+    CBoundedBuffer buffer;
     try {
         // NOTE: fmt stops at the limit: a padding that the bounds above miss is never written out to its end.
-        fmt::vformat_to(CBoundedWriter(text, bFull), converted, args);
+        fmt::vformat_to(fmt::appender(buffer), converted, args);
     } catch (const STextFull&) {
-        // the text holds its first MAX_TEXT bytes
+        // the buffer holds the text's first bytes, more than the limit
     } catch (const fmt::format_error&) {
-        text.assign(format.substr(0, MAX_TEXT));
+        return std::string(format.substr(0, MAX_TEXT));
     }
-    return text;
+    return std::string(buffer.data(), std::min(buffer.size(), MAX_TEXT));
 }
