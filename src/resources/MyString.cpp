@@ -102,7 +102,8 @@ std::string BoundFieldSpecs(std::string_view format) {
         std::size_t end = i + 1;
         while (end < format.size() && format[end] != ':' && format[end] != '{' && format[end] != '}') ++end;
         out.append(format.substr(i, end - i));
-        if (end < format.size() && format[end] == ':') {
+        const bool bSpec = end < format.size() && format[end] == ':';
+        if (bSpec) {
             ++end;
             const std::size_t nPrefix = FillAndAlignLength(format, end);
             out += ':';
@@ -116,7 +117,11 @@ std::string BoundFieldSpecs(std::string_view format) {
             if (format[end] == '}') --depth;
             ++end;
         }
-        AppendBoundedSpec(format.substr(specStart, (depth == 0 ? end - 1 : end) - specStart), out);
+        const std::string_view rest = format.substr(specStart, (depth == 0 ? end - 1 : end) - specStart);
+        if (bSpec)
+            AppendBoundedSpec(rest, out);
+        else
+            out.append(rest); // no spec: a malformed name stays as it is, for fmt to refuse
         if (depth == 0) out += '}';
         i = end;
     }

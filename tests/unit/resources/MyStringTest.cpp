@@ -27,6 +27,7 @@ TEST(MyString, FormatsEitherStyleAndNeverThrows) {
     // A format that asks for more than it is given, or is malformed, comes back unfilled.
     EXPECT_EQ(CMyString::Format("{} and {}", 1), "{} and {}");
     EXPECT_EQ(CMyString::Format("{:q}", 1), "{:q}");
+    EXPECT_EQ(CMyString::Format("{0{1}}", 1, 2), "{0{1}}");
     EXPECT_EQ(CMyString::Format("%s", "x"), "x");
 }
 
