@@ -1,9 +1,11 @@
 // Our game data library's data objects, driven by host data (see docs/HOSTDATA.md) and recording what they
 // are told.
 #include <algorithm>
+#include <cctype>
+#include <charconv>
 #include <cstdint>
-#include <cstdio>
 #include <string>
+#include <string_view>
 
 #include "BaseLib.h"
 #include "GameData.h"
@@ -11,6 +13,23 @@
 #include "hostlibs/HostEnv.h"
 
 namespace {
+constexpr std::size_t RECORD_NUMBERS = 4;
+
+// The record's first four integers, blanks before each; false when one is missing or leaves 32 bits (read by
+// sscanf's "%d" such a number has no defined value).
+bool ReadRecordNumbers(std::string_view text, int (&values)[RECORD_NUMBERS]) {
+    const char* p = text.data();
+    const char* const end = p + text.size();
+    for (int& value : values) {
+        while (p != end && std::isspace(static_cast<unsigned char>(*p))) ++p;
+        if (p != end && *p == '+') ++p;
+        const auto [next, ec] = std::from_chars(p, end, value);
+        if (ec != std::errc()) return false;
+        p = next;
+    }
+    return true;
+}
+
 class CRoleData final : public IRoleData {
 public:
     void PlaySoundByName(const char* szName) override {
@@ -113,9 +132,8 @@ public:
             text = buffer;
         }
         if (text.empty()) return false;
-        int values[4] = {0, 0, 0, 0};
-        if (std::sscanf(text.c_str(), "%d %d %d %d", &values[0], &values[1], &values[2], &values[3]) != 4)
-            return false;
+        int values[RECORD_NUMBERS] = {0, 0, 0, 0};
+        if (!ReadRecordNumbers(text, values)) return false;
         const auto add = [](long long a, long long b) {
             return static_cast<LONG>(std::clamp<long long>(a + b, INT32_MIN, INT32_MAX));
         };

@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "common/SysLog.h"
 #include "platform/BaseLib.h"
 #include "resources/TextScan.h"
 
@@ -74,7 +75,11 @@ void CServerLists::SetStatus(std::string_view value) {
         const auto v = textscan::ReadIntsSeparated(entry, '_', 4);
         if (v.size() == 4 && v[0] >= 1 && v[0] <= static_cast<int>(servers.size())) {
             SServerItem& server = servers[static_cast<std::size_t>(v[0] - 1)];
-            server.nCurPlayers = v[1];
+            // NOTE: a negative count is no players; as a load it would lie far below any bar's range.
+            if (v[1] < 0)
+                SysLogWarn(__FILE__, __LINE__, "negative player count read as 0", "entry",
+                           std::string(entry));
+            server.nCurPlayers = v[1] < 0 ? 0 : v[1];
             server.nMaxPlayers = v[2] > 1 ? v[2] : 1;
             server.nStatus = v[3];
         }

@@ -8,6 +8,7 @@
 #include "platform/GameData.h"
 #include "platform/Input.h"
 #include "rolecreate/DlgFlashProIntro.h"
+#include "rolecreate/EnglishPlacement.h"
 #include "screen/LayoutNumbers.h"
 #include "screen/ScreenContext.h"
 
@@ -115,10 +116,11 @@ void CDlgFlashConfirm::PlaceByMainWindow() {
     if (!pContext) return;
     // NOTE: the client's formula (left - 1024 + W - w / 2, bottom + H - 768) lands where the toolkit's
     // coordinate conversion puts it; ours has none that makes it centre, so the box is centred directly.
+    // A stored size that is no window size is taken as the design size, as the English creation screen does.
+    const SIZE main = CEnglishPlacement::MainSize(pContext);
     const int nWidth = GetWidth();
     const int nHeight = GetHeight();
-    MoveWindow(CentredStart(pContext->GetMainPathWidth(), nWidth),
-               CentredStart(pContext->GetMainPathHeight(), nHeight), nWidth, nHeight, TRUE);
+    MoveWindow(CentredStart(main.cx, nWidth), CentredStart(main.cy, nHeight), nWidth, nHeight, TRUE);
 }
 
 void CDlgFlashConfirm::ArrangeButtons() {

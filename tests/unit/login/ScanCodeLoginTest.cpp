@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "GameData.h"
 #include "SimulatorFixture.h"
 #include "hostlibs/HostCanvas.h"
 
@@ -166,6 +167,18 @@ TEST_F(ScanCodeLoginTest, TheWindowRecordSizesAndCentresTheDialog) {
     EXPECT_EQ(rc.bottom - rc.top, 300);
     EXPECT_EQ(rc.left, (800 - 310) / 2);
     EXPECT_EQ(rc.top, (600 - 300) / 2 - 5);
+}
+
+TEST_F(ScanCodeLoginTest, AWindowRecordWithANumberPast32BitsIsNoRecord) {
+    RECT rc{};
+    host::SetData("layout.7", " +1 -2 300 280 tail");
+    ASSERT_TRUE(MyGameDataQuery()->GetWindowRecord(7, rc));
+    EXPECT_EQ(rc.left, 1);
+    EXPECT_EQ(rc.bottom, 278);
+    for (const char* bad : {"0 0 99999999999 280", "0 0 300 -2147483649", "0 0 300"}) {
+        host::SetData("layout.7", bad);
+        EXPECT_FALSE(MyGameDataQuery()->GetWindowRecord(7, rc)) << bad;
+    }
 }
 
 TEST_F(ScanCodeLoginTest, MissingDrawingNumbersAreLoggedOncePerOpening) {

@@ -27,6 +27,7 @@ TEST(MyString, FormatsEitherStyleAndNeverThrows) {
     // A format that asks for more than it is given, or is malformed, comes back unfilled.
     EXPECT_EQ(CMyString::Format("{} and {}", 1), "{} and {}");
     EXPECT_EQ(CMyString::Format("{:q}", 1), "{:q}");
+    EXPECT_EQ(CMyString::Format("{0{1}}", 1, 2), "{0{1}}");
     EXPECT_EQ(CMyString::Format("%s", "x"), "x");
 }
 
@@ -41,6 +42,13 @@ TEST(MyString, WidthsAndPrecisionsFromFilesAreBounded) {
         const std::string text = CMyString::Format(format, "v");
         EXPECT_LE(text.size(), CMyString::MAX_TEXT) << format;
     }
+    // Digits around a dropped dynamic field join into one width, which is bounded too (found by fuzzing: the
+    // padding of 54854095 was cut from the text but still written).
+    EXPECT_EQ(CMyString::Format("{:>5{}485{}482639826398}", "v"),
+              std::string(CMyString::MAX_TEXT - 1, ' ') + "v");
+    // fmt takes '}' as a fill before an align sign; that '}' does not end the field, and its width is
+    // bounded.
+    EXPECT_EQ(CMyString::Format("{:}>666666665}", 75), std::string(CMyString::MAX_TEXT - 2, '}') + "75");
     EXPECT_EQ(CMyString::Format("{:>6}|{:0>3}", "ab", 7), "    ab|007") << "ordinary widths stay";
     EXPECT_EQ(CMyString::Format("{:.2f}", 3.14159), "3.14");
     EXPECT_EQ(CMyString::Format("{{{}}}", 1), "{1}");

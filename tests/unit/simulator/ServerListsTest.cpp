@@ -55,6 +55,11 @@ TEST_F(ServerLists, StatusUpdatesServersAndLoadsReadBack) {
     EXPECT_FLOAT_EQ(m_sim->GetServerLoad(5), 0.0f);
     Set("VAR_SERVERSTATUS", "1#1_99_100_1");
     EXPECT_FLOAT_EQ(m_sim->GetServerLoad(0), 99.0f) << "an entry without its closing bar still counts";
+    testlog::Expect("WARN", "negative player count");
+    Set("VAR_SERVERSTATUS", "1#1_-2147483648_1_1|");
+    EXPECT_FLOAT_EQ(m_sim->GetServerLoad(0), 0.0f)
+        << "a negative count is no players, not a load past any bar";
+    Set("VAR_SERVERSTATUS", "1#1_99_100_1|");
     Set("VAR_SERVERSTATUS", "2#1_1_1_1|");
     Set("VAR_SERVERSTATUS", "0#1_1_1_1|");
     EXPECT_FLOAT_EQ(m_sim->GetServerLoad(0), 99.0f);
