@@ -3,7 +3,9 @@
 #include "StandInPage.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cstdio>
+#include <string_view>
 
 #include <zlib.h>
 
@@ -255,6 +257,25 @@ void CStandInPage::WaitIdle(std::unique_lock<std::mutex>& lock) const {
 
 // ---- frames (host thread) -------------------------------------------------------------------------
 
+namespace {
+// "X,Y,W,H" of 32-bit integers (blanks before each); false for anything else (sscanf's "%d" gives a wider
+// number no defined value).
+bool ReadDirtyRect(std::string_view part, RECT& rc) {
+    LONG v[4] = {0, 0, 0, 0};
+    const char* p = part.data();
+    const char* const end = p + part.size();
+    for (std::size_t i = 0; i < 4; ++i) {
+        if (i > 0 && (p == end || *p++ != ',')) return false;
+        while (p != end && (*p == ' ' || *p == '\t')) ++p;
+        const auto [next, ec] = std::from_chars(p, end, v[i]);
+        if (ec != std::errc()) return false;
+        p = next;
+    }
+    rc = RECT{v[0], v[1], v[2], v[3]};
+    return true;
+}
+} // namespace
+
 void CStandInPage::AddHostDirtyRects() {
     // "X,Y,W,H;..." reported with the next frame as given, unclipped; unreadable parts are skipped.
     const std::string text = host::GetData("browser.dirty");
@@ -263,10 +284,9 @@ void CStandInPage::AddHostDirtyRects() {
     std::size_t start = 0;
     while (start <= text.size()) {
         const std::size_t end = std::min(text.find(';', start), text.size());
-        const std::string part = text.substr(start, end - start);
-        int v[4] = {0, 0, 0, 0};
-        if (std::sscanf(part.c_str(), "%d,%d,%d,%d", &v[0], &v[1], &v[2], &v[3]) == 4)
-            m_vecRepainted.push_back(RECT{v[0], v[1], v[2], v[3]});
+        RECT rc{0, 0, 0, 0};
+        if (ReadDirtyRect(std::string_view(text).substr(start, end - start), rc))
+            m_vecRepainted.push_back(rc);
         start = end + 1;
     }
 }
