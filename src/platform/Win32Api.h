@@ -21,6 +21,8 @@ DWORD GetTickCount();
 
 // ---- threads -------------------------------------------------------------------------------------
 
+/// The calling convention of thread start routines: the platform's default here (stdcall on 32-bit Windows).
+#define WINAPI
 using LPTHREAD_START_ROUTINE = DWORD (*)(void* pParam);
 /// Thread creation flag: the thread waits for ResumeThread before it runs.
 inline constexpr DWORD CREATE_SUSPENDED = 0x4;
