@@ -8,8 +8,8 @@
 #include "flashsim/Win32Types.h"
 
 #if defined(_WIN32)
-// NOTE: flashsim/Win32Types.h has already included <windows.h> lean, so winsock2.h cannot drag the old
-// winsock.h in before it.
+// NOTE: <windows.h> came in lean through flashsim/Win32Types.h, without the old winsock.h, so winsock2.h may
+// follow it.
 #include <shellapi.h>
 #include <shlwapi.h>
 #include <winsock2.h>
