@@ -58,7 +58,7 @@ const char* ModeOf(DWORD dwAccess, DWORD dwDisposition) {
 }
 } // namespace
 
-HANDLE CreateFileA(const char* szPath, DWORD dwDesiredAccess, DWORD dwShareMode, void*,
+HANDLE CreateFileA(const char* szPath, DWORD dwDesiredAccess, DWORD dwShareMode, SECURITY_ATTRIBUTES*,
                    DWORD dwCreationDisposition, DWORD, HANDLE) {
     const char* szMode = ModeOf(dwDesiredAccess, dwCreationDisposition);
     if (!szPath || !*szPath || !szMode) return INVALID_HANDLE_VALUE;
@@ -77,7 +77,7 @@ HANDLE CreateFileA(const char* szPath, DWORD dwDesiredAccess, DWORD dwShareMode,
     return static_cast<host::detail::CHandleObject*>(new FileHandle(pFile, it));
 }
 
-BOOL WriteFile(HANDLE hFile, const void* pBuffer, DWORD nBytes, DWORD* pWritten, void*) {
+BOOL WriteFile(HANDLE hFile, const void* pBuffer, DWORD nBytes, DWORD* pWritten, OVERLAPPED*) {
     if (pWritten) *pWritten = 0;
     if (!hFile || hFile == INVALID_HANDLE_VALUE || (!pBuffer && nBytes > 0)) return FALSE;
     auto* pHandle = dynamic_cast<FileHandle*>(static_cast<host::detail::CHandleObject*>(hFile));

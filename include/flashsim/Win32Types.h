@@ -3,7 +3,15 @@
 #pragma once
 
 #if defined(_WIN32)
+#ifndef WIN32_LEAN_AND_MEAN
+#define WIN32_LEAN_AND_MEAN
+#endif
+#ifndef NOMINMAX
+#define NOMINMAX
+#endif
 #include <windows.h>
+// GET_X_LPARAM and GET_Y_LPARAM
+#include <windowsx.h>
 #else
 #include <cstdint>
 

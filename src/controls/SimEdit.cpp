@@ -42,7 +42,8 @@ void CSimEdit::OnLButtonDown(UINT nFlags, POINT point) {
     const int nCharWidth = GetFontSize().cx;
     // NOTE: a font without width has no character positions; the press only reaches the toolkit.
     if (nCharWidth > 0) {
-        const int nIndex = std::clamp((point.x - GetWindowRect().left) / nCharWidth, 0, TextLength());
+        const int nIndex =
+            std::clamp(static_cast<int>(point.x - GetWindowRect().left) / nCharWidth, 0, TextLength());
         m_nSelAnchor = m_nSelCaret = nIndex;
         SetSel(nIndex, nIndex);
     }

@@ -23,6 +23,8 @@ public:
     /// Typing moved the selection: both ends of the mouse selection follow its start.
     void OnSelChange() override;
 
+    // NOTE: <windows.h> renames GetWindowText to GetWindowTextA, which would hide the base's text getter.
+    using LuGui::CLuEdit::GetWindowTextA;
     int GetWindowText(char* szBuf, int nSize) const;
     void GetWindowText(CZrString& strText) const;
     /// The text as UTF-16, at most nSize - 1 units, terminated; returns the units copied.

@@ -48,7 +48,7 @@ void CSimStatic::ShowWindowText() {
     }
     const SIZE font = GetFontSize();
     m_autoText.SetFontSize(font.cy);
-    m_autoText.SetWidth(std::max(GetWidth(), font.cy));
+    m_autoText.SetWidth(std::max(GetWidth(), static_cast<int>(font.cy)));
     m_autoText.SetColor(GetFontColor());
     m_autoText.SetAlign(AutoTextAlign(GetAlign()));
     m_autoText.SetText(szText, IsWrap(), true);

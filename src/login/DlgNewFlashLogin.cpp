@@ -111,7 +111,7 @@ void CDlgNewFlashLogin::DoDataExchange(LuGui::CDataExchange* pDX) {
     DDX_Control(pDX, IDC_DECORATION, m_staDecoration);
     m_frame.Bind(pDX);
     DDX_Control(pDX, IDC_RELOAD, m_btnReload);
-    DDX_Control(pDX, IDC_HELP, m_btnHelp);
+    DDX_Control(pDX, IDC_HELP_LINK, m_btnHelp);
     DDX_Control(pDX, IDC_SITE, m_btnSite);
     DDX_Control(pDX, IDC_QR_PICTURE, m_btnQrPicture);
     DDX_Control(pDX, IDC_QR_CAPTION, m_btnQrCaption);
@@ -153,12 +153,10 @@ void CDlgNewFlashLogin::MessageMap() {
     PushMsgMap(WM_COMMAND, IDC_FORGET_LINK, &CDlgNewFlashLogin::OnForgetPassword);
     PushMsgMap(WM_COMMAND, IDC_PASSWORD_HELP, &CDlgNewFlashLogin::OnForgetPassword);
     PushMsgMap(WM_COMMAND, IDC_TOKEN_HELP, &CDlgNewFlashLogin::OnTokenHelp);
-    const std::pair<UINT, std::uint32_t> pages[] = {{IDC_HELP, STR_HELP_URL},
-                                                    {IDC_SITE, STR_SITE_URL},
-                                                    {IDC_AGREEMENT_LINK, STR_AGREEMENT_URL},
-                                                    {IDC_AGREEMENT_LINE, STR_AGREEMENT_URL},
-                                                    {IDC_PRIVACY_LINK, STR_PRIVACY_URL},
-                                                    {IDC_PRIVACY_LINE, STR_PRIVACY_URL}};
+    const std::pair<UINT, std::uint32_t> pages[] = {
+        {IDC_HELP_LINK, STR_HELP_URL},           {IDC_SITE, STR_SITE_URL},
+        {IDC_AGREEMENT_LINK, STR_AGREEMENT_URL}, {IDC_AGREEMENT_LINE, STR_AGREEMENT_URL},
+        {IDC_PRIVACY_LINK, STR_PRIVACY_URL},     {IDC_PRIVACY_LINE, STR_PRIVACY_URL}};
     for (const auto& page : pages) {
         const std::uint32_t nUrlId = page.second;
         PushMsgMap(WM_COMMAND, page.first, MsgHandler([this, nUrlId] { OnOpenStringPage(nUrlId); }));

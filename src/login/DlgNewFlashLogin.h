@@ -38,7 +38,7 @@ public:
     static constexpr UINT IDC_SELECT_LINK = 1134, IDC_SELECT_LINE = 1173;
     static constexpr UINT IDC_DESCRIPTION1 = 1130, IDC_DESCRIPTION2 = 1131, IDC_DECORATION = 1132;
     static constexpr UINT IDC_VERSION = 1129, IDC_LOGO = 1133, IDC_SOUND = 1099;
-    static constexpr UINT IDC_BACK = 1021, IDC_EXIT = 1090, IDC_RELOAD = 1002, IDC_HELP = 1101,
+    static constexpr UINT IDC_BACK = 1021, IDC_EXIT = 1090, IDC_RELOAD = 1002, IDC_HELP_LINK = 1101,
                           IDC_SITE = 1100;
     static constexpr UINT IDC_QR_PICTURE = 1022, IDC_QR_CAPTION = 1023;
     static constexpr UINT IDC_LANGUAGE_LABEL = 1125, IDC_LANGUAGE_NAME = 1127;

@@ -16,7 +16,7 @@ constexpr std::uint8_t DARK = 0x00;
 constexpr std::uint8_t DARK_MODULE_BIT = 0x01;
 constexpr int BYTES_PER_PIXEL = 3;
 constexpr std::uint16_t BITMAP_SIGNATURE = 0x4D42; // "BM"
-constexpr std::uint16_t PLANES = 1;
+constexpr std::uint16_t BITMAP_PLANES = 1;
 constexpr std::uint16_t BITS_PER_PIXEL = 24;
 // Scales beyond this would make pictures wider than any screen; they are refused like a failed encoding.
 constexpr int MAX_SCALE = 64;
@@ -68,7 +68,7 @@ void WriteHeaders(std::uint8_t* p, std::uint32_t nWidth, std::uint32_t nPixelByt
     Put32(pInfo + 0, static_cast<std::uint32_t>(CQRCodeRenderer::INFO_HEADER_SIZE));
     Put32(pInfo + 4, nWidth);
     Put32(pInfo + 8, static_cast<std::uint32_t>(-static_cast<std::int32_t>(nWidth)));
-    Put16(pInfo + 12, PLANES);
+    Put16(pInfo + 12, BITMAP_PLANES);
     Put16(pInfo + 14, BITS_PER_PIXEL);
     // Compression, image size, resolutions and colour counts stay 0.
 }

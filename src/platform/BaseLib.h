@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "Win32Api.h"
 #include "ZrString.h"
-#include "flashsim/Win32Types.h"
 
 // ---- safe conversions ----------------------------------------------------------------------------
 
@@ -48,8 +48,6 @@ void Safefclose(ZrFile* pFile);
 std::size_t Safefwrite(const void* pData, std::size_t nSize, std::size_t nCount, ZrFile* pFile);
 /// The client directory (the game's current directory), as GetCurrentDirectoryA gives it.
 std::string GetClientDirectory();
-/// Whether a file or folder exists (an absolute path, or one relative to the client directory).
-BOOL PathFileExistsA(const char* szPath);
 
 // ---- languages -----------------------------------------------------------------------------------
 
@@ -80,7 +78,6 @@ extern CMultiLanguage g_objMultiLang;
 
 /// Milliseconds of the host's clock (timeGetTime).
 DWORD TimeGet();
-DWORD GetTickCount();
 /// The local calendar time as "YYYY-MM-DD HH:MM:SS".
 std::string FormatSvrTime();
 /// Local calendar time broken down.
@@ -100,30 +97,12 @@ extern int g_nDumpStep;
 
 // ---- threads -------------------------------------------------------------------------------------
 
-using LPTHREAD_START_ROUTINE = DWORD (*)(void* pParam);
-
 class CHandleHelper {
 public:
     /// Starts a thread running pfn(pParam); returns its handle (close with CloseHandle) or null.
     static HANDLE CreateThreadProxy(void* pSecurity, std::size_t nStackSize, LPTHREAD_START_ROUTINE pfn,
                                     void* pParam, DWORD dwFlags, DWORD* pThreadId);
 };
-/// CreateThreadProxy flag: the thread waits for ResumeThread before it runs.
-inline constexpr DWORD CREATE_SUSPENDED = 0x4;
-/// Lets a thread created suspended run; returns its previous suspend count (1), or 0xFFFFFFFF for a handle
-/// that is no thread.
-DWORD ResumeThread(HANDLE hThread);
-inline constexpr int THREAD_PRIORITY_NORMAL = 0;
-inline constexpr int THREAD_PRIORITY_ABOVE_NORMAL = 1;
-/// Records a thread's priority (on this platform threads all run at the process's priority).
-BOOL SetThreadPriority(HANDLE hThread, int nPriority);
-inline constexpr DWORD INFINITE = 0xFFFFFFFFu;
-inline constexpr DWORD WAIT_OBJECT_0 = 0;
-inline constexpr DWORD WAIT_TIMEOUT = 258;
-/// Waits for a thread handle to end; only INFINITE is honoured exactly, any other time polls once.
-DWORD WaitForSingleObject(HANDLE hHandle, DWORD dwMilliseconds);
-/// Releases a thread or file handle (joining a thread that has ended, detaching one that has not).
-BOOL CloseHandle(HANDLE hHandle);
 
 // ---- INI files -----------------------------------------------------------------------------------
 
@@ -138,18 +117,3 @@ extern const char* const g_pszIniServerState;
 extern const char* const g_pszIniGameSetup;
 /// Reads a key as a decimal integer (SafeAtoi); nDefault when it is missing.
 int MyGetPrivateProfileInt(const char* szSection, const char* szKey, int nDefault, const char* szFile);
-
-// ---- shell ---------------------------------------------------------------------------------------
-
-/// Opens a document or web address with the system's shell; returns a value above 32 on success.
-HINSTANCE ShellExecuteA(HWND hWnd, const char* szOperation, const char* szFile, const char* szParameters,
-                        const char* szDirectory, int nShowCmd);
-
-// ---- sockets -------------------------------------------------------------------------------------
-
-struct WSADATA {
-    WORD wVersion;
-    WORD wHighVersion;
-};
-int WSAStartup(WORD wVersionRequested, WSADATA* pData);
-int WSACleanup();

@@ -28,7 +28,8 @@ public:
     void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags) override;
     /// Left, right, home, end and delete.
     void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) override;
-    /// Notifications after typing changed the text, then the selection (in this order).
+    /// Notifications after typing changed the text, then the selection (in this order). Typing that changed
+    /// the text also tells the dialog (command 273 with notification code EN_CHANGE in the high word).
     virtual void OnTextChanged() {}
     virtual void OnSelChange() {}
 
@@ -36,6 +37,8 @@ public:
     void SetWindowTextA(const char* szText) override;
     /// Copies at most nSize - 1 bytes of the text into szBuf (terminated); returns the bytes copied.
     int GetWindowText(char* szBuf, int nSize) const;
+    // NOTE: <windows.h> renames GetWindowText to GetWindowTextA, which would hide the base's text getter.
+    using CLuBaseWindow::GetWindowTextA;
     /// The selection in bytes: start in the low 16 bits, end in the high 16 bits.
     DWORD GetSel() const;
     /// Sets the selection (clamped to the text, ordered); the caret stands at the end.
@@ -45,9 +48,6 @@ public:
     /// Gives this edit the keyboard focus; an edit that did not have it tells its dialog (command 273 with
     /// notification code EN_SETFOCUS in the high word).
     void SetFocus();
-    static constexpr WORD EN_SETFOCUS = 0x0100;
-    /// Typing changed the text: command 273 with this notification code in the high word.
-    static constexpr WORD EN_CHANGE = 0x0300;
     /// Byte limit of the text (at least 1).
     void SetLimitText(int nLimit);
     int GetLimitText() const { return m_nLimitText; }
@@ -58,7 +58,8 @@ public:
     /// The client's edit set-up: multi-line flag, a reserved value, text colour, read-only flag.
     void PreSetParam(bool bMultiLine, int nReserved, DWORD dwTextColor, bool bReadOnly);
     /// Input-method (Chinese) input. Switched off, the edit refuses what such an input method writes (CJK
-    /// ideographs, kana, hangul, full-width forms); other characters, accented letters among them, still type.
+    /// ideographs, kana, hangul, full-width forms); other characters, accented letters among them, still
+    /// type.
     void EnableChinese(bool bEnable) { m_bChinese = bEnable; }
     bool IsChineseEnabled() const { return m_bChinese; }
     /// The client's font format (kept).

@@ -113,7 +113,7 @@ DWORD Download(const SDownloadJob& job) {
     return 1;
 }
 
-DWORD ThreadDownImg(void* pParam) {
+DWORD WINAPI ThreadDownImg(void* pParam) {
     if (!pParam) return 0;
     const std::unique_ptr<SDownloadJob> job(static_cast<SDownloadJob*>(pParam));
     // NOTE: machine faults cannot be caught portably here; the Windows build wraps this in a structured

@@ -28,13 +28,13 @@ BOOL CWinInetTransport::InternetCloseHandle(HINTERNET hInternet) {
 HANDLE CWinInetTransport::CreateFileA(const char* szPath, DWORD dwDesiredAccess, DWORD dwShareMode,
                                       void* pSecurity, DWORD dwCreationDisposition,
                                       DWORD dwFlagsAndAttributes, HANDLE hTemplate) {
-    return ::CreateFileA(szPath, dwDesiredAccess, dwShareMode, pSecurity, dwCreationDisposition,
-                         dwFlagsAndAttributes, hTemplate);
+    return ::CreateFileA(szPath, dwDesiredAccess, dwShareMode, static_cast<SECURITY_ATTRIBUTES*>(pSecurity),
+                         dwCreationDisposition, dwFlagsAndAttributes, hTemplate);
 }
 
 BOOL CWinInetTransport::WriteFile(HANDLE hFile, const void* pBuffer, DWORD nBytes, DWORD* pWritten,
                                   void* pOverlapped) {
-    return ::WriteFile(hFile, pBuffer, nBytes, pWritten, pOverlapped);
+    return ::WriteFile(hFile, pBuffer, nBytes, pWritten, static_cast<OVERLAPPED*>(pOverlapped));
 }
 
 BOOL CWinInetTransport::CloseHandle(HANDLE hHandle) {

@@ -17,7 +17,7 @@ constexpr const char* EXPLAIN_TITLE = "Login_CreateRoleExplainTitle";
 constexpr const char* EXPLAIN_PICTURE = "Login_CreateRoleExplainPic";
 constexpr int TITLE_BUFFER = 64;
 // NOTE: 64 characters of at most 4 UTF-8 bytes each, and room to see that a name reaches the refusal.
-constexpr int NAME_BUFFER = CDlgFlashCreateRole::NAME_LIMIT_CHARS * 4 + 1;
+constexpr int NAME_BUFFER_BYTES = CDlgFlashCreateRole::NAME_LIMIT_CHARS * 4 + 1;
 } // namespace
 
 CDlgFlashCreateRole::CDlgFlashCreateRole() : CSimDialog(IDD) {
@@ -129,8 +129,8 @@ void CDlgFlashCreateRole::OnCreate() {
     pContext->NotifyHostInt("SetLook", m_pSelectHead ? m_pSelectHead->GetLook(m_pSelectHead->GetHead()) : 0);
     // NOTE: the whole box is read so that the name sent is the one shown (the box holds at most 64
     // characters, so the refusal below is reachable with multi-byte names).
-    char szName[NAME_BUFFER] = {};
-    m_edtName.GetWindowText(szName, NAME_BUFFER);
+    char szName[NAME_BUFFER_BYTES] = {};
+    m_edtName.GetWindowText(szName, NAME_BUFFER_BYTES);
     if (static_cast<int>(std::char_traits<char>::length(szName)) >= NAME_REFUSED_BYTES) {
         pContext->ShowMessageBox(MSGBOX_ERROR, pContext->GetStr(STR_NAME_TOO_LONG));
         return;

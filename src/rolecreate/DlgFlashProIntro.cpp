@@ -79,7 +79,7 @@ void CDlgFlashProIntro::DoDataExchange(LuGui::CDataExchange* pDX) {
     using LuGui::DDX_Control;
     // The backdrop lies under everything else: bound (and so drawn) first.
     DDX_Control(pDX, IDC_BACKDROP, m_staBackdrop);
-    DDX_Control(pDX, IDC_ICON, m_staIcon);
+    DDX_Control(pDX, IDC_PRO_ICON, m_staIcon);
     DDX_Control(pDX, IDC_ATTRIBUTE, m_staAttribute);
     DDX_Control(pDX, IDC_SUMMARY, m_staSummary);
     DDX_Control(pDX, IDC_DESCRIPTION, m_staDescription);
@@ -101,7 +101,7 @@ void CDlgFlashProIntro::MessageMap() {
 LRESULT CDlgFlashProIntro::WindowProc(UINT uMsg, WPARAM wParam, LPARAM lParam) {
     if (uMsg == WM_COMMAND && LOWORD(wParam) == IDC_NAME) {
         // NOTE: the name box's own notifications (focus, change) must not reach a handler of its id.
-        if (HIWORD(wParam) == LuGui::CLuEdit::EN_CHANGE) OnNameChanged();
+        if (HIWORD(wParam) == EN_CHANGE) OnNameChanged();
         return 1;
     }
     return CSimDialog::WindowProc(uMsg, wParam, lParam);

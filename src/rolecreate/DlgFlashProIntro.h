@@ -21,7 +21,7 @@ public:
     static constexpr UINT IDD = 1016;
     static constexpr UINT IDC_SUMMARY = 1113;
     static constexpr UINT IDC_DESCRIPTION = 1109;
-    static constexpr UINT IDC_ICON = 1106;
+    static constexpr UINT IDC_PRO_ICON = 1106;
     static constexpr UINT IDC_ATTRIBUTE = 1111;
     static constexpr UINT IDC_BACKDROP = 1112;
     static constexpr UINT IDC_MALE = 1292;

@@ -81,7 +81,7 @@ struct SPlayerListJob {
     int nArg = 0;
 };
 
-DWORD PlayerListThread(void* pParam);
+DWORD WINAPI PlayerListThread(void* pParam);
 } // namespace
 
 CFlashSimulator* FlashSim() {
@@ -443,7 +443,7 @@ HANDLE CFlashSimulator::StartPlayerListThread() {
 }
 
 namespace {
-DWORD PlayerListThread(void* pParam) {
+DWORD WINAPI PlayerListThread(void* pParam) {
     const std::unique_ptr<SPlayerListJob> job(static_cast<SPlayerListJob*>(pParam));
     // NOTE: machine faults cannot be caught portably here; the Windows build wraps this in a structured
     // handler that reports through LogMsgError.

@@ -40,8 +40,7 @@ protected:
 // ---- focus -----------------------------------------------------------------------------------------
 
 TEST_F(EditTest, PressGivesTheFocusUntilAnotherEditTakesItOrTheDialogHides) {
-    const std::string setFocus =
-        "WindowProc 273 " + std::to_string(MAKEWPARAM(IDC_EDIT, LuGui::CLuEdit::EN_SETFOCUS)) + " 0";
+    const std::string setFocus = "WindowProc 273 " + std::to_string(MAKEWPARAM(IDC_EDIT, EN_SETFOCUS)) + " 0";
     EXPECT_FALSE(m_dlg.m_edit.IsFocus());
     ClickOn(m_dlg.m_edit);
     EXPECT_TRUE(m_dlg.m_edit.IsFocus());
