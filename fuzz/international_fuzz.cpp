@@ -42,10 +42,16 @@ bool IsNumberFrom(const std::string& text, long nMin) {
     return *end == '\0' && n >= nMin;
 }
 
+CFlashSimulator* g_pSim = nullptr; ///< set before the first command arrives
+
 void OnCommand(const char* szCommand, const char* szArgument) {
     const std::string command(szCommand);
     const std::string argument(szArgument);
-    if (command == "CMD_SELECTSERVER") fuzzscreen::Trap(!IsNumberFrom(argument, 1));
+    // NOTE: a server number is counted from 1; 0 tells the host that no server is chosen yet (a role list the
+    // host opened before any choice, then started).
+    if (command == "CMD_SELECTSERVER")
+        fuzzscreen::Trap(
+            !IsNumberFrom(argument, argument == "0" && g_pSim && g_pSim->GetCurServer() == -1 ? 0 : 1));
     if (command == "CMD_SELECTGROUP") fuzzscreen::Trap(!IsNumberFrom(argument, 0));
     if (command == "CLEAR_KEY_INPUT")
         fuzzscreen::Trap(argument != "0" && argument != "1" && argument != "117");
@@ -54,6 +60,7 @@ void OnCommand(const char* szCommand, const char* szArgument) {
 CFlashSimulator* Simulator() {
     static CFlashSimulator* sim = [] {
         CFlashSimulator* s = fuzzscreen::CreateEnglishSimulator(&OnCommand, EST_LOGIN);
+        g_pSim = s;
         s->SetVariable("VAR_MAINPATH", "1");
         // The main login opens inactive; its links answer once it has been shown for a while.
         s->Process();
