@@ -3,7 +3,6 @@
 #include "StandInPage.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cstdio>
 #include <string_view>
 
@@ -13,6 +12,7 @@
 #include "graphics/FontRenderer.h"
 #include "hostlibs/HostEnv.h"
 #include "text/Utf8.h"
+#include "text/WholeInts.h"
 
 namespace {
 
@@ -258,19 +258,10 @@ void CStandInPage::WaitIdle(std::unique_lock<std::mutex>& lock) const {
 // ---- frames (host thread) -------------------------------------------------------------------------
 
 namespace {
-// "X,Y,W,H" of 32-bit integers (blanks before each); false for anything else (sscanf's "%d" gives a wider
-// number no defined value).
+// "X,Y,W,H" of 32-bit integers; false for anything else.
 bool ReadDirtyRect(std::string_view part, RECT& rc) {
-    LONG v[4] = {0, 0, 0, 0};
-    const char* p = part.data();
-    const char* const end = p + part.size();
-    for (std::size_t i = 0; i < 4; ++i) {
-        if (i > 0 && (p == end || *p++ != ',')) return false;
-        while (p != end && (*p == ' ' || *p == '\t')) ++p;
-        const auto [next, ec] = std::from_chars(p, end, v[i]);
-        if (ec != std::errc()) return false;
-        p = next;
-    }
+    int v[4] = {0, 0, 0, 0};
+    if (!txt::ReadWholeInts(part, v, ',')) return false;
     rc = RECT{v[0], v[1], v[2], v[3]};
     return true;
 }

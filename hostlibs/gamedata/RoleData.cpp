@@ -1,8 +1,6 @@
 // Our game data library's data objects, driven by host data (see docs/HOSTDATA.md) and recording what they
 // are told.
 #include <algorithm>
-#include <cctype>
-#include <charconv>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -11,24 +9,10 @@
 #include "GameData.h"
 #include "RoleCreateRecords.h"
 #include "hostlibs/HostEnv.h"
+#include "text/WholeInts.h"
 
 namespace {
 constexpr std::size_t RECORD_NUMBERS = 4;
-
-// The record's first four integers, blanks before each; false when one is missing or leaves 32 bits (read by
-// sscanf's "%d" such a number has no defined value).
-bool ReadRecordNumbers(std::string_view text, int (&values)[RECORD_NUMBERS]) {
-    const char* p = text.data();
-    const char* const end = p + text.size();
-    for (int& value : values) {
-        while (p != end && std::isspace(static_cast<unsigned char>(*p))) ++p;
-        if (p != end && *p == '+') ++p;
-        const auto [next, ec] = std::from_chars(p, end, value);
-        if (ec != std::errc()) return false;
-        p = next;
-    }
-    return true;
-}
 
 class CRoleData final : public IRoleData {
 public:
@@ -133,7 +117,7 @@ public:
         }
         if (text.empty()) return false;
         int values[RECORD_NUMBERS] = {0, 0, 0, 0};
-        if (!ReadRecordNumbers(text, values)) return false;
+        if (!txt::ReadWholeInts(text, values, ' ')) return false;
         const auto add = [](long long a, long long b) {
             return static_cast<LONG>(std::clamp<long long>(a + b, INT32_MIN, INT32_MAX));
         };
